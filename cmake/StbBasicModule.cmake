@@ -1,0 +1,65 @@
+# SPDX-License-Identifier: MIT
+# The QML module Stbui.UI.Qml.Controls.Basic: its plugin, and Stb::Basic for C++ programs.
+
+# The module's QML components, in the order of the qmldir. A component is listed as soon as its file
+# exists, so that no entry points nowhere.
+set(components
+    BusyIndicator CheckBox CircleProgressBar Keyboard LineEdit MainMenuButton MainMenuEffect MediaBlock
+    MediaGridView MediaListView PrimaryButton RadioButton ScrollBar StandardButton TabButton
+    Experimental/PlayerButton)
+set(qml_files)
+foreach(component IN LISTS components)
+    if(EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/qml/${component}.qml)
+        list(APPEND qml_files qml/${component}.qml)
+    endif()
+endforeach()
+if(qml_files)
+    list(PREPEND qml_files QML_FILES)
+endif()
+
+set(module qmlbasiccontrolsextensionplugin)
+qt_add_qml_module(${module}
+    URI Stbui.UI.Qml.Controls.Basic
+    VERSION 1.0
+    PLUGIN_TARGET ${module}
+    CLASS_NAME Stbui_UI_Qml_Controls_BasicPlugin
+    RESOURCE_PREFIX /
+    ${STBUI_QML_MODULE_OPTIONS}
+    DEPENDENCIES
+        QtQml.Base
+        QtQuick
+        QtQuickTemplates2
+        Stbui.UI.Qml.Design
+        Stbui.UI.Qml.Controls.Generic
+    SOURCES
+        plugin/qmlsettings.cpp plugin/qmlsettings.h
+        plugin/versionguard.cpp plugin/versionguard.h
+    ${qml_files})
+
+# qmltyperegistrar includes the headers of the element types by their bare names.
+target_include_directories(${module} PRIVATE
+    ${CMAKE_CURRENT_SOURCE_DIR} plugin controls/buttons controls/tiles controls/epg)
+set(libraries
+    Stb::Config Stb::Core Stb::Design
+    Qt6::Core Qt6::Gui Qt6::Network Qt6::Qml Qt6::QmlModels Qt6::Quick Qt6::QuickTemplates2
+    Qt6::CorePrivate Qt6::GuiPrivate Qt6::QmlPrivate Qt6::QuickPrivate)
+target_link_libraries(${module} PRIVATE ${libraries})
+# A MODULE library links happily with undefined symbols and would fail only when it is loaded.
+if(NOT STBUI_SANITIZE)
+    target_link_options(${module} PRIVATE -Wl,--no-undefined)
+endif()
+
+# The registration that the build generates goes through the guard of plugin/versionguard.h.
+string(TOLOWER ${module} generated)
+set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/${generated}_qmltyperegistrations.cpp PROPERTIES
+    COMPILE_OPTIONS "-include;${CMAKE_CURRENT_SOURCE_DIR}/plugin/versionguard.h"
+    COMPILE_DEFINITIONS QQmlModuleRegistration=stbui::GuardedModuleRegistration)
+
+# The plugin's own objects, its generated registration included. A program that links them has the types
+# registered before the engine looks, so the plugin file is never loaded beside them.
+add_library(stb_basic INTERFACE)
+add_library(Stb::Basic ALIAS stb_basic)
+target_include_directories(stb_basic INTERFACE ${CMAKE_CURRENT_SOURCE_DIR})
+target_link_libraries(stb_basic INTERFACE $<TARGET_OBJECTS:${module}> ${libraries})
+
+stb_install_qml_module(${module})

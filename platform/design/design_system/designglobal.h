@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#ifndef DESIGN_SYSTEM_DESIGNGLOBAL_H
+#define DESIGN_SYSTEM_DESIGNGLOBAL_H
+
+#include <QtCore/qglobal.h>
+
+#ifdef STBDESIGN_LIBRARY
+#  define STBDESIGN_EXPORT Q_DECL_EXPORT
+#else
+#  define STBDESIGN_EXPORT Q_DECL_IMPORT
+#endif
+
+#endif // DESIGN_SYSTEM_DESIGNGLOBAL_H

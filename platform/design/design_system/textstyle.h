@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#ifndef DESIGN_SYSTEM_TEXTSTYLE_H
+#define DESIGN_SYSTEM_TEXTSTYLE_H
+
+#include <design_system/statescolors.h>
+
+#include <QtCore/qrect.h>
+#include <QtGui/qfont.h>
+
+namespace design_system {
+
+struct STBDESIGN_EXPORT TextStyle
+{
+    Q_GADGET
+    Q_PROPERTY(QRect rect MEMBER rect)
+    Q_PROPERTY(QColor backgroundColor MEMBER backgroundColor)
+    Q_PROPERTY(QFont font MEMBER font)
+    Q_PROPERTY(int maxLineCount MEMBER maxLineCount)
+    Q_PROPERTY(Qt::Alignment alignment MEMBER alignment)
+    Q_PROPERTY(QColor color MEMBER color)
+    Q_PROPERTY(design_system::StatesColors colors MEMBER colors)
+    Q_PROPERTY(int leftPadding MEMBER leftPadding)
+    Q_PROPERTY(int topPadding MEMBER topPadding)
+    Q_PROPERTY(int rightPadding MEMBER rightPadding)
+    Q_PROPERTY(int bottomPadding MEMBER bottomPadding)
+    QML_ANONYMOUS
+public:
+    QRect rect;
+    QColor backgroundColor;
+    QFont font;
+    int maxLineCount = 0;
+    Qt::Alignment alignment;
+    QColor color;
+    StatesColors colors;
+    int leftPadding = 0;
+    int topPadding = 0;
+    int rightPadding = 0;
+    int bottomPadding = 0;
+
+    bool operator==(const TextStyle &) const = default;
+};
+
+} // namespace design_system
+
+#endif // DESIGN_SYSTEM_TEXTSTYLE_H

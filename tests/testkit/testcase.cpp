@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "testkit/testcase.h"
+
+#include <QtCore/qregularexpression.h>
+#include <QtCore/qtemporarydir.h>
+#include <QtGui/qfont.h>
+#include <QtGui/qguiapplication.h>
+
+#include <ctime>
+
+namespace stbtest {
+
+void TestCase::init()
+{
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+}
+
+void setUpEnvironment()
+{
+    static const QTemporaryDir home; // nothing is read from, or left in, the user's folders
+    const QByteArray homePath = home.path().toLocal8Bit();
+    const QList<QByteArray> kept = qgetenv("STBTEST_KEEP").split(',');
+    const auto set = [&kept](const char *name, const QByteArray &value) {
+        if (!kept.contains(name))
+            qputenv(name, value);
+    };
+    set("QT_QPA_PLATFORM", "offscreen");
+    set("QT_QUICK_BACKEND", "software");
+    set("LANG", "C.UTF-8");
+    set("LC_ALL", "C.UTF-8");
+    set("LANGUAGE", "");
+    set("TZ", "UTC");
+    set("FONTCONFIG_FILE", STBTEST_FONTCONFIG);
+    set("QML_IMPORT_PATH", STBTEST_QML_IMPORT_PATH);
+    set("XDG_CONFIG_HOME", homePath + "/config");
+    set("XDG_CACHE_HOME", homePath + "/cache");
+    set("XDG_DATA_HOME", homePath + "/data");
+    for (const char *name : { "QT_SCALE_FACTOR", "QT_FONT_DPI", "QT_LOGGING_RULES", "QML2_IMPORT_PATH",
+                              "STBUI_CONFIG", "QT_PLUGIN_PATH" }) {
+        if (!kept.contains(name))
+            qunsetenv(name);
+    }
+    tzset();
+}
+
+int runTest(QObject *test, int argc, char **argv)
+{
+    QGuiApplication app(argc, argv);
+    QGuiApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 12));
+    return QTest::qExec(test, argc, argv);
+}
+
+} // namespace stbtest

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#ifndef STBTEST_TESTCASE_H
+#define STBTEST_TESTCASE_H
+
+#include <QtCore/qobject.h>
+#include <QtTest/qtest.h>
+
+namespace stbtest {
+
+/*!
+    The base of every test class: any warning, wherever it comes from, fails the test that caused it. A test
+    that expects a warning says so with QTest::ignoreMessage(). A class with an init() of its own calls this
+    one first.
+*/
+class TestCase : public QObject
+{
+    Q_OBJECT
+protected Q_SLOTS:
+    void init();
+};
+
+/*!
+    Gives the process the environment that tests and pictures rely on, whatever the shell's is: offscreen
+    platform, software adaptation, C.UTF-8, UTC, DejaVu fonts, the build's QML import path and a configuration
+    of its own. To be called before the application object is made. A variable whose name is in
+    STBTEST_KEEP (comma-separated, for example "QT_QPA_PLATFORM,QT_QUICK_BACKEND") keeps the shell's value.
+*/
+void setUpEnvironment();
+
+/*! Runs \a test with a QGuiApplication; what STB_TEST_MAIN expands to. */
+int runTest(QObject *test, int argc, char **argv);
+
+} // namespace stbtest
+
+/*! The main function of a test program with the one test class \a TestClass. */
+#define STB_TEST_MAIN(TestClass) \
+    int main(int argc, char **argv) \
+    { \
+        stbtest::setUpEnvironment(); \
+        TestClass test; \
+        return stbtest::runTest(&test, argc, argv); \
+    }
+
+#endif // STBTEST_TESTCASE_H
