@@ -32,8 +32,17 @@ qt_add_qml_module(${module}
         Stbui.UI.Qml.Design
         Stbui.UI.Qml.Controls.Generic
     SOURCES
+        controls/epg/stbepgviewdelegate.cpp controls/epg/stbepgviewdelegate.h controls/epg/stbepgviewdelegate_p.h
+        controls/epg/stbepgviewdelegatelayout.cpp controls/epg/stbepgviewdelegatelayout.h
+        controls/stylereference.h
         plugin/qmlsettings.cpp plugin/qmlsettings.h
         plugin/versionguard.cpp plugin/versionguard.h
+        scenegraph/childnodes.h
+        scenegraph/iconnodebuilder.cpp scenegraph/iconnodebuilder.h
+        scenegraph/nodehelpers.cpp scenegraph/nodehelpers.h
+        scenegraph/qtcompat_p.h
+        scenegraph/textnodebuilder.cpp scenegraph/textnodebuilder.h
+        scenegraph/throbbernodebuilder.cpp scenegraph/throbbernodebuilder.h
     ${qml_files})
 
 # qmltyperegistrar includes the headers of the element types by their bare names.

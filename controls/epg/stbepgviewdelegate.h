@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#ifndef STBUI_STBEPGVIEWDELEGATE_H
+#define STBUI_STBEPGVIEWDELEGATE_H
+
+#include <design_system/playerepgdelegatestyle.h>
+
+#include <QtQuick/qquickitem.h>
+
+class StbEpgViewDelegatePrivate;
+
+/*!
+    A row of a programme guide, the QML element \c EpgViewDelegate: start time, title, subtitle and, while the
+    programme is on air, a live badge above the title. It paints itself; it has no child items.
+
+    The width is set from outside. The row computes its height from its texts and writes it back; it is one
+    pixel less than the lowest painted line, and never below 0. The start time lies at the row's top left
+    corner, everything else begins at the left edge of the style's previewRect. Without a style, or with a width
+    or height of 0 or less, the row paints nothing; without a style or width it keeps its height.
+
+    The badge's icon is ":/resources/icons/live_status_on.png" of the application; without it the badge holds
+    the label alone. The label is the application's translation of "NOW_IN_LIVE" in the context "QObject".
+
+    Subtitle and badge label share layouts and pixmaps with all rows of the same text, font and colour, whatever
+    the widths are.
+*/
+class StbEpgViewDelegate : public QQuickItem
+{
+    Q_OBJECT
+    /*!
+        The design. Not owned; one that is destroyed counts as null. The row takes the values over when it is
+        given a style object, and does not listen to later changes inside it. Null by default; resettable.
+    */
+    Q_PROPERTY(design_system::PlayerEpgDelegateQmlStyle *style READ style WRITE setStyle RESET resetStyle NOTIFY
+                       styleChanged)
+    /*! The programme's title: the style's playable colour if live or playable, else the unavailable one. */
+    Q_PROPERTY(QString itemTitle READ title WRITE setTitle NOTIFY titleChanged)
+    /*! The line below the title; takes the title's place when that is empty. */
+    Q_PROPERTY(QString itemSubtitle READ subtitle WRITE setSubtitle NOTIFY subtitleChanged)
+    /*! The start time as it is to be shown, for example "20:05". */
+    Q_PROPERTY(QString tvProgramStartTimeText READ startTimeText WRITE setStartTimeText NOTIFY
+                       startTimeTextChanged)
+    /*! Whether the programme is on air now: shows the live badge. Default false. */
+    Q_PROPERTY(bool tvProgramIsLive READ isLive WRITE setLive NOTIFY liveChanged)
+    /*! Whether the programme is yet to come. A plain row paints it like any other. Default false. */
+    Q_PROPERTY(bool tvProgramIsFuture READ isFuture WRITE setFuture NOTIFY futureChanged)
+    /*! Whether the programme can be watched: chooses the colour of start time and title. Default false. */
+    Q_PROPERTY(bool tvProgramPlayable READ isPlayable WRITE setPlayable NOTIFY playableChanged)
+    QML_NAMED_ELEMENT(EpgViewDelegate)
+public:
+    explicit StbEpgViewDelegate(QQuickItem *parent = nullptr);
+    ~StbEpgViewDelegate() override;
+
+    design_system::PlayerEpgDelegateQmlStyle *style() const;
+    void setStyle(design_system::PlayerEpgDelegateQmlStyle *style);
+    void resetStyle();
+
+    QString title() const;
+    void setTitle(const QString &title);
+
+    QString subtitle() const;
+    void setSubtitle(const QString &subtitle);
+
+    QString startTimeText() const;
+    void setStartTimeText(const QString &text);
+
+    bool isLive() const;
+    void setLive(bool live);
+
+    bool isFuture() const;
+    void setFuture(bool future);
+
+    bool isPlayable() const;
+    void setPlayable(bool playable);
+
+Q_SIGNALS:
+    void styleChanged();
+    void titleChanged();
+    void subtitleChanged();
+    void startTimeTextChanged();
+    void liveChanged();
+    void futureChanged();
+    void playableChanged();
+
+protected:
+    StbEpgViewDelegate(StbEpgViewDelegatePrivate &dd, QQuickItem *parent);
+
+    void componentComplete() override;
+    QSGNode *updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data) override;
+
+private:
+    Q_DISABLE_COPY_MOVE(StbEpgViewDelegate)
+    Q_DECLARE_PRIVATE(StbEpgViewDelegate)
+};
+
+#endif // STBUI_STBEPGVIEWDELEGATE_H
