@@ -25,6 +25,7 @@ qt_add_qml_module(${module}
     CLASS_NAME Stbui_UI_Qml_Controls_BasicPlugin
     RESOURCE_PREFIX /
     ${STBUI_QML_MODULE_OPTIONS}
+    IMPORT_PATH ${StbPlatform_QML_DIR}
     DEPENDENCIES
         QtQml.Base
         QtQuick
@@ -71,4 +72,4 @@ add_library(Stb::Basic ALIAS stb_basic)
 target_include_directories(stb_basic INTERFACE ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(stb_basic INTERFACE $<TARGET_OBJECTS:${module}> ${libraries})
 
-stb_install_qml_module(${module})
+stb_install_qml_module(${module} module)
