@@ -4,7 +4,6 @@
 #include <QtCore/qregularexpression.h>
 #include <QtCore/qtemporarydir.h>
 #include <QtGui/qfont.h>
-#include <QtGui/qguiapplication.h>
 
 #include <ctime>
 
@@ -35,6 +34,7 @@ void setUpEnvironment()
     set("XDG_CONFIG_HOME", homePath + "/config");
     set("XDG_CACHE_HOME", homePath + "/cache");
     set("XDG_DATA_HOME", homePath + "/data");
+    set("XDG_RUNTIME_DIR", homePath);
     for (const char *name : { "QT_SCALE_FACTOR", "QT_FONT_DPI", "QT_LOGGING_RULES", "QML2_IMPORT_PATH",
                               "STBUI_CONFIG", "QT_PLUGIN_PATH" }) {
         if (!kept.contains(name))
@@ -43,11 +43,11 @@ void setUpEnvironment()
     tzset();
 }
 
-int runTest(QObject *test, int argc, char **argv)
+std::unique_ptr<QGuiApplication> makeApplication(int &argc, char **argv)
 {
-    QGuiApplication app(argc, argv);
+    auto app = std::make_unique<QGuiApplication>(argc, argv);
     QGuiApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 12));
-    return QTest::qExec(test, argc, argv);
+    return app;
 }
 
 } // namespace stbtest

@@ -3,7 +3,10 @@
 #define STBTEST_TESTCASE_H
 
 #include <QtCore/qobject.h>
+#include <QtGui/qguiapplication.h>
 #include <QtTest/qtest.h>
+
+#include <memory>
 
 namespace stbtest {
 
@@ -27,8 +30,8 @@ protected Q_SLOTS:
 */
 void setUpEnvironment();
 
-/*! Runs \a test with a QGuiApplication; what STB_TEST_MAIN expands to. */
-int runTest(QObject *test, int argc, char **argv);
+/*! The application object of a test program, with the fonts that pictures rely on. */
+std::unique_ptr<QGuiApplication> makeApplication(int &argc, char **argv);
 
 } // namespace stbtest
 
@@ -37,8 +40,9 @@ int runTest(QObject *test, int argc, char **argv);
     int main(int argc, char **argv) \
     { \
         stbtest::setUpEnvironment(); \
+        const auto app = stbtest::makeApplication(argc, argv); \
         TestClass test; \
-        return stbtest::runTest(&test, argc, argv); \
+        return QTest::qExec(&test, argc, argv); \
     }
 
 #endif // STBTEST_TESTCASE_H
