@@ -8,6 +8,7 @@
 
 namespace design_system {
 
+/*! The look of a row of the programme guide, resting and focused. */
 struct STBDESIGN_EXPORT PlayerEpgDelegateStyle
 {
     Q_GADGET
@@ -38,39 +39,44 @@ struct STBDESIGN_EXPORT PlayerEpgDelegateStyle
     Q_PROPERTY(QColor liveStartTimeColor MEMBER liveStartTimeColor)
     Q_PROPERTY(QColor unavailableTextColor MEMBER unavailableTextColor)
     Q_PROPERTY(QColor playableTextColor MEMBER playableTextColor)
+    Q_CLASSINFO("unscaled", "focusedTitleMaxLineCount")
     QML_ANONYMOUS
 public:
-    int titleSubtitleSpacing = 0;
-    TextStyle startTimeTextStyle;
-    QRect previewRect;
-    int previewBottomSpacing = 0;
-    QColor cardColor;
-    int reminderIconSpacing = 0;
-    TextStyle statusTextStyle;
-    TextStyle startsAtTextStyle;
-    TextStyle reminderActionTextStyle;
-    QColor playIconColor;
-    QRect progressBarRect;
+    int titleSubtitleSpacing = 0; //!< vertical gap between title and subtitle
+    TextStyle startTimeTextStyle; //!< the width of its rectangle bounds the text
+    QRect previewRect; //!< the focused row's card; its left and width also place badge, title and subtitle
+    int previewBottomSpacing = 0; //!< between the card and what follows
+    QColor cardColor; //!< over the card's picture
+    int reminderIconSpacing = 0; //!< between the reminder icon and the status line
+    TextStyle statusTextStyle; //!< "not available", "soon live", "reminder set"
+    TextStyle startsAtTextStyle; //!< "on" and the start time
+    TextStyle reminderActionTextStyle; //!< action bar at the card's bottom; its height is the rectangle's
+    QColor playIconColor; //!< tint of the play icon
+    QRect progressBarRect; //!< left: inset from the card's left, right and bottom; height: the bar's
     QColor progressRemainderColor;
     QColor progressPlayedColor;
-    int focusedTitleMaxLineCount = 0;
+    int focusedTitleMaxLineCount = 0; //!< lines of the title in the focused row
     QColor liveBadgeColor;
-    int liveBadgeTopMargin = 0;
-    int liveBadgeBottomSpacing = 0;
-    int liveBadgeTopMarginExtended = 0;
-    int liveBadgeBottomSpacingExtended = 0;
-    int liveBadgePadding = 0;
-    int liveBadgeIconSpacing = 0;
+    int liveBadgeTopMargin = 0; //!< above the badge of a resting row
+    int liveBadgeBottomSpacing = 0; //!< below the badge of a resting row
+    int liveBadgeTopMarginExtended = 0; //!< above the badge of a focused row
+    int liveBadgeBottomSpacingExtended = 0; //!< below the badge of a focused row
+    int liveBadgePadding = 0; //!< inside the badge, on all sides
+    int liveBadgeIconSpacing = 0; //!< between the badge's icon and its text
     TextStyle liveTextStyle;
     TextStyle titleTextStyle;
     TextStyle subtitleTextStyle;
-    QColor liveStartTimeColor;
-    QColor unavailableTextColor;
-    QColor playableTextColor;
+    QColor liveStartTimeColor; //!< start time of the programme on air
+    QColor unavailableTextColor; //!< start time and title of what cannot be played
+    QColor playableTextColor; //!< start time and title of what can be played
 
     bool operator==(const PlayerEpgDelegateStyle &) const = default;
 };
 
+/*!
+    Holds a PlayerEpgDelegateStyle for a control. A control acts on another object in its style, not on
+    styleChanged().
+*/
 class STBDESIGN_EXPORT PlayerEpgDelegateQmlStyle : public QObject
 {
     Q_OBJECT

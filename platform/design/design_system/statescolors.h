@@ -4,6 +4,7 @@
 
 #include <design_system/designglobal.h>
 
+#include <QtCore/qlist.h>
 #include <QtCore/qobject.h>
 #include <QtGui/qcolor.h>
 #include <QtQml/qqmlregistration.h>
@@ -24,6 +25,9 @@ public:
     QColor checked;
     QColor disabled;
     QColor focused;
+
+    /*! The colours in the order normal, checked, disabled, focused. */
+    QList<QColor> toList() const { return { normal, checked, disabled, focused }; }
 
     bool operator==(const StatesColors &) const = default;
 };

@@ -9,6 +9,7 @@
 
 namespace design_system {
 
+/*! The look of one text of a control. A control reads either color or colors, and says which. */
 struct STBDESIGN_EXPORT TextStyle
 {
     Q_GADGET
@@ -23,16 +24,17 @@ struct STBDESIGN_EXPORT TextStyle
     Q_PROPERTY(int topPadding MEMBER topPadding)
     Q_PROPERTY(int rightPadding MEMBER rightPadding)
     Q_PROPERTY(int bottomPadding MEMBER bottomPadding)
+    Q_CLASSINFO("unscaled", "maxLineCount")
     QML_ANONYMOUS
 public:
-    QRect rect;
-    QColor backgroundColor;
+    QRect rect; //!< its width bounds the text where the control says so
+    QColor backgroundColor; //!< of the badge around the text, where there is one
     QFont font;
-    int maxLineCount = 0;
+    int maxLineCount = 0; //!< below 1 counts as 1
     Qt::Alignment alignment;
-    QColor color;
-    StatesColors colors;
-    int leftPadding = 0;
+    QColor color; //!< of the text, where it has one colour
+    StatesColors colors; //!< of the text, where it depends on the state
+    int leftPadding = 0; //!< this and the next three: inside the badge around the text
     int topPadding = 0;
     int rightPadding = 0;
     int bottomPadding = 0;

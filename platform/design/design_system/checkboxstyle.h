@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#ifndef DESIGN_SYSTEM_CHECKBOXSTYLE_H
+#define DESIGN_SYSTEM_CHECKBOXSTYLE_H
+
+#include <design_system/stylegroups.h>
+#include <design_system/statescolors.h>
+
+#include <QtCore/qlist.h>
+#include <QtCore/qobject.h>
+#include <QtQml/qqmlregistration.h>
+
+namespace design_system {
+
+/*! The look of a check box and of a radio button. Lengths are pixels. */
+class STBDESIGN_EXPORT CheckBoxQmlStyle : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(int roundingRadius MEMBER m_roundingRadius NOTIFY roundingRadiusChanged)
+    Q_PROPERTY(design_system::CheckBoxIconGroup *icon READ icon CONSTANT)
+    Q_PROPERTY(design_system::FontGroup *title READ title CONSTANT)
+    Q_PROPERTY(int spacing MEMBER m_spacing NOTIFY spacingChanged)
+    Q_PROPERTY(design_system::StatesColors indicator MEMBER m_indicator NOTIFY indicatorChanged)
+    Q_PROPERTY(design_system::StatesColors iconStates MEMBER m_iconStates NOTIFY iconStatesChanged)
+    Q_PROPERTY(design_system::StatesColors titleStates MEMBER m_titleStates NOTIFY titleStatesChanged)
+    QML_ELEMENT
+public:
+    using QObject::QObject;
+
+    CheckBoxIconGroup *icon() { return &m_icon; }
+    FontGroup *title() { return &m_title; }
+
+    // By state: normal, checked, disabled, focused.
+    Q_INVOKABLE QList<QColor> indicatorColors() const { return m_indicator.toList(); }
+    Q_INVOKABLE QList<QColor> iconColors() const { return m_iconStates.toList(); }
+    Q_INVOKABLE QList<QColor> titleColors() const { return m_titleStates.toList(); }
+
+Q_SIGNALS:
+    void roundingRadiusChanged();
+    void spacingChanged();
+    void indicatorChanged();
+    void iconStatesChanged();
+    void titleStatesChanged();
+
+private:
+    int m_roundingRadius = 0;
+    CheckBoxIconGroup m_icon;
+    FontGroup m_title;
+    int m_spacing = 0; //!< between indicator and title
+    StatesColors m_indicator;
+    StatesColors m_iconStates;
+    StatesColors m_titleStates;
+};
+
+} // namespace design_system
+
+#endif // DESIGN_SYSTEM_CHECKBOXSTYLE_H
