@@ -5,9 +5,9 @@
 #include <QtCore/qglobal.h>
 
 #ifdef STBCORE_LIBRARY
-#  define STBCORE_EXPORT Q_DECL_EXPORT
+#define STBCORE_EXPORT Q_DECL_EXPORT
 #else
-#  define STBCORE_EXPORT Q_DECL_IMPORT
+#define STBCORE_EXPORT Q_DECL_IMPORT
 #endif
 
 #endif // STBCORE_STBCOREGLOBAL_H
