@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: MIT
+#include "gallery/data/guide.h"
+
+#include "gallery/data/guide_p.h"
+
+#include <algorithm>
+
+namespace gallery {
+
+namespace {
+
+using Programmes = std::deque<ProgrammeRecord>;
+
+// Index of the first programme that starts after \a time.
+qsizetype firstAfter(const Programmes &programmes, qint64 time)
+{
+    const auto later = [](qint64 t, const ProgrammeRecord &programme) { return t < programme.start; };
+    return std::upper_bound(programmes.cbegin(), programmes.cend(), time, later) - programmes.cbegin();
+}
+
+// Index of the first programme that starts at \a time or later.
+qsizetype firstFrom(const Programmes &programmes, qint64 time)
+{
+    const auto earlier = [](const ProgrammeRecord &programme, qint64 t) { return programme.start < t; };
+    return std::lower_bound(programmes.cbegin(), programmes.cend(), time, earlier) - programmes.cbegin();
+}
+
+} // namespace
+
+Guide::Guide()
+    : m_data(std::make_shared<const GuideData>())
+{
+}
+
+Guide::Guide(std::shared_ptr<const GuideData> data)
+    : m_data(std::move(data))
+{
+}
+
+int Guide::channelCount() const
+{
+    return int(m_data->channels.size());
+}
+
+const Channel &Guide::channel(int channel) const
+{
+    Q_ASSERT(channel >= 0 && channel < channelCount());
+    return m_data->channels[size_t(channel)].channel;
+}
+
+int Guide::channelIndex(const QString &id) const
+{
+    return m_data->channelById.value(id, -1);
+}
+
+qint64 Guide::programmeCount() const
+{
+    return m_data->programmeCount;
+}
+
+int Guide::programmeCount(int channel) const
+{
+    Q_ASSERT(channel >= 0 && channel < channelCount());
+    return int(m_data->channels[size_t(channel)].programmes.size());
+}
+
+Programme Guide::programme(int channel, int programme) const
+{
+    Q_ASSERT(programme >= 0 && programme < programmeCount(channel));
+    const ProgrammeRecord &record = m_data->channels[size_t(channel)].programmes[size_t(programme)];
+    return { { record.start, record.stop },
+             TextPool::text(record.title),
+             TextPool::text(record.subTitle),
+             TextPool::text(record.description),
+             TextPool::text(record.category) };
+}
+
+TimeSpan Guide::timeSpan(int channel, int programme) const
+{
+    Q_ASSERT(programme >= 0 && programme < programmeCount(channel));
+    const ProgrammeRecord &record = m_data->channels[size_t(channel)].programmes[size_t(programme)];
+    return { record.start, record.stop };
+}
+
+int Guide::programmeAt(int channel, qint64 time) const
+{
+    Q_ASSERT(channel >= 0 && channel < channelCount());
+    const ChannelRecord &record = m_data->channels[size_t(channel)];
+    qsizetype found = -1;
+    for (qsizetype i = firstAfter(record.programmes, time) - 1; i >= 0; --i) {
+        const ProgrammeRecord &programme = record.programmes[size_t(i)];
+        if (time - programme.start >= record.longest)
+            break;
+        if (found >= 0 && programme.start < record.programmes[size_t(found)].start)
+            break;
+        if (time < programme.stop)
+            found = i;
+    }
+    return int(found);
+}
+
+int Guide::nextProgramme(int channel, qint64 time) const
+{
+    Q_ASSERT(channel >= 0 && channel < channelCount());
+    const Programmes &programmes = m_data->channels[size_t(channel)].programmes;
+    const qsizetype next = firstAfter(programmes, time);
+    return next < qsizetype(programmes.size()) ? int(next) : -1;
+}
+
+int Guide::previousProgramme(int channel, qint64 time) const
+{
+    Q_ASSERT(channel >= 0 && channel < channelCount());
+    return int(firstFrom(m_data->channels[size_t(channel)].programmes, time)) - 1;
+}
+
+QList<int> Guide::programmesIn(int channel, const TimeSpan &span) const
+{
+    Q_ASSERT(channel >= 0 && channel < channelCount());
+    const ChannelRecord &record = m_data->channels[size_t(channel)];
+    const qsizetype begin = firstFrom(record.programmes, span.start);
+    QList<int> rows;
+    for (qsizetype i = firstAfter(record.programmes, span.start - record.longest); i < begin; ++i) {
+        if (record.programmes[size_t(i)].stop > span.start)
+            rows.append(int(i));
+    }
+    const qsizetype end = firstFrom(record.programmes, span.stop);
+    for (qsizetype i = begin; i < end; ++i)
+        rows.append(int(i));
+    return rows;
+}
+
+TimeSpan Guide::timeSpan() const
+{
+    return m_data->time;
+}
+
+qint64 Guide::memoryUsage() const
+{
+    return qint64(m_data->texts.bytes()) + m_data->programmeCount * qint64(sizeof(ProgrammeRecord))
+           + qint64(m_data->channels.size() * sizeof(ChannelRecord));
+}
+
+TimeSpan localDay(QDate date)
+{
+    return { date.startOfDay().toSecsSinceEpoch(), date.addDays(1).startOfDay().toSecsSinceEpoch() };
+}
+
+} // namespace gallery

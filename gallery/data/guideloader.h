@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#ifndef GALLERY_GUIDELOADER_H
+#define GALLERY_GUIDELOADER_H
+
+#include "gallery/data/guidereader.h"
+
+#include <QtCore/qobject.h>
+#include <QtCore/qtimer.h>
+
+#include <memory>
+
+namespace gallery {
+
+/*!
+    Reads a guide file in a thread of its own and hands the result to the thread that the loader lives in.
+    Destroying the loader, or loading another file, stops a reading that is under way; both wait for its thread,
+    which takes milliseconds.
+*/
+class GuideLoader : public QObject
+{
+    Q_OBJECT
+    /*! Whether a file is being read. */
+    Q_PROPERTY(bool loading READ isLoading NOTIFY loadingChanged)
+    /*! How much of the file is read: 0 to 1, renewed a few times in a second while loading. */
+    Q_PROPERTY(double progress READ progress NOTIFY progressChanged)
+    /*! Why the last file could not be read, or not to its end, as one line; empty when it could. */
+    Q_PROPERTY(QString error READ error NOTIFY finished)
+public:
+    explicit GuideLoader(QObject *parent = nullptr);
+    ~GuideLoader() override;
+
+    /*!
+        Starts to read \a fileName, XMLTV, plain or compressed with gzip. Of texts in several languages the one
+        in \a language ("de", "pt-BR") is taken, else the first. Always ends with finished(), never from within
+        this function, unless cancel() or another load() comes first.
+    */
+    void load(const QString &fileName, const QString &language);
+    /*! Stops reading; finished() is not emitted. */
+    void cancel();
+
+    bool isLoading() const { return m_job != nullptr; }
+    double progress() const { return m_progress; }
+    QString error() const { return m_report.error; }
+    /*! What the last finished reading gave. */
+    GuideReport report() const { return m_report; }
+    Guide guide() const { return m_report.guide; }
+
+Q_SIGNALS:
+    void loadingChanged();
+    void progressChanged();
+    /*! The file is read, whole or not: see report(). */
+    void finished();
+
+private:
+    struct Job;
+    void look();
+    void stop();
+    void setProgress(double progress);
+
+    std::unique_ptr<Job> m_job;
+    QTimer m_timer;
+    GuideReport m_report;
+    double m_progress = 0;
+};
+
+} // namespace gallery
+
+#endif // GALLERY_GUIDELOADER_H

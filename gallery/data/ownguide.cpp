@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: MIT
+#include "gallery/data/ownguide.h"
+
+#include "gallery/data/guidebuilder.h"
+
+#include <QtCore/qfile.h>
+#include <QtCore/qjsonarray.h>
+#include <QtCore/qjsondocument.h>
+#include <QtCore/qjsonobject.h>
+
+#include <algorithm>
+#include <vector>
+
+namespace gallery {
+
+namespace {
+
+QString localized(const QJsonValue &texts, const QString &language)
+{
+    const QString text = texts[language].toString();
+    return text.isEmpty() ? texts[QLatin1String("en")].toString() : text;
+}
+
+/*! Writes one channel's day, which the template gives as start times and programmes, on any date. */
+class Writer
+{
+public:
+    Writer(const QJsonObject &programmes, const QString &language, const TimeSpan &wanted, GuideBuilder *guide)
+        : m_programmes(programmes)
+        , m_language(language)
+        , m_wanted(wanted)
+        , m_guide(guide)
+    {
+    }
+
+    void writeChannel(const QJsonValue &channel)
+    {
+        const QString id = channel[QLatin1String("id")].toString();
+        m_guide->addChannel({ id,
+                              localized(channel[QLatin1String("name")], m_language),
+                              channel[QLatin1String("number")].toString(),
+                              {} });
+        const std::vector<Start> starts = startsOf(channel[QLatin1String("day")].toArray());
+        for (size_t i = 0; i + 1 < starts.size(); ++i) {
+            const TimeSpan time{ starts[i].time, starts[i + 1].time };
+            if (time.stop > m_wanted.start && time.start < m_wanted.stop)
+                writeProgramme(id, time, starts[i]);
+        }
+    }
+
+private:
+    struct Start
+    {
+        qint64 time;
+        QString programme;
+        qint64 episode;
+    };
+
+    // Two days more than wanted, because a programme of the day before may run over midnight, and the last
+    // one ends where the next day's first one starts.
+    std::vector<Start> startsOf(const QJsonArray &day) const
+    {
+        std::vector<Start> starts;
+        const QDate last = QDateTime::fromSecsSinceEpoch(m_wanted.stop).date();
+        for (QDate date = QDateTime::fromSecsSinceEpoch(m_wanted.start).date().addDays(-1); date <= last;
+             date = date.addDays(1)) {
+            for (const QJsonValue &entry : day) {
+                const QTime time = QTime::fromString(entry[0].toString(), QStringLiteral("HH:mm"));
+                starts.push_back({ QDateTime(date, time).toSecsSinceEpoch(), entry[1].toString(),
+                                   date.toJulianDay() + qint64(starts.size()) });
+            }
+        }
+        // When the clocks go forward, times that the day does not have come to lie after later ones.
+        std::stable_sort(starts.begin(), starts.end(),
+                         [](const Start &a, const Start &b) { return a.time < b.time; });
+        return starts;
+    }
+
+    void writeProgramme(const QString &channelId, const TimeSpan &time, const Start &start)
+    {
+        const QJsonValue texts = m_programmes[start.programme];
+        const QJsonArray subtitles = texts[QLatin1String("subtitles")].toArray();
+        NewProgramme programme;
+        programme.channelId = channelId;
+        programme.start = time.start;
+        programme.stop = time.stop;
+        programme.title = localized(texts[QLatin1String("title")], m_language);
+        if (!subtitles.isEmpty())
+            programme.subTitle = localized(subtitles.at(start.episode % subtitles.size()), m_language);
+        programme.description = localized(texts[QLatin1String("description")], m_language);
+        programme.category = texts[QLatin1String("category")].toString();
+        m_guide->addProgramme(programme);
+    }
+
+    QJsonObject m_programmes;
+    QString m_language;
+    TimeSpan m_wanted;
+    GuideBuilder *m_guide = nullptr;
+};
+
+} // namespace
+
+Guide ownGuide(const QDateTime &now, const QString &language)
+{
+    QFile file(QStringLiteral(":/gallery/data/ownguide.json"));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    const QJsonObject pattern = QJsonDocument::fromJson(file.readAll()).object();
+    const QDate today = now.toLocalTime().date();
+    const TimeSpan wanted{ localDay(today.addDays(-1)).start, localDay(today.addDays(1)).stop };
+    GuideBuilder builder;
+    Writer writer(pattern[QLatin1String("programmes")].toObject(), language.left(2).toLower(), wanted,
+                  &builder);
+    const QJsonArray channels = pattern[QLatin1String("channels")].toArray();
+    for (const QJsonValue &channel : channels)
+        writer.writeChannel(channel);
+    return builder.take();
+}
+
+} // namespace gallery

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#ifndef GALLERY_OWNGUIDE_H
+#define GALLERY_OWNGUIDE_H
+
+#include "gallery/data/guide.h"
+
+namespace gallery {
+
+/*!
+    The guide that is shown when no file is given: a few channels with a programme for every minute from the
+    start of the day before \a now to the end of the day after it, in local time. Texts are in \a language
+    ("en", "de", "ru" or "ar"; a region is ignored), else in English.
+*/
+Guide ownGuide(const QDateTime &now, const QString &language);
+
+} // namespace gallery
+
+#endif // GALLERY_OWNGUIDE_H
