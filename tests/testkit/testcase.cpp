@@ -5,9 +5,16 @@
 #include <QtCore/qtemporarydir.h>
 #include <QtGui/qfont.h>
 
+#include <cstdio>
+#include <cstdlib>
 #include <ctime>
 
 namespace stbtest {
+namespace {
+
+RandomOptions givenOptions;
+
+} // namespace
 
 void TestCase::init()
 {
@@ -43,8 +50,42 @@ void setUpEnvironment()
     tzset();
 }
 
+RandomOptions randomOptions()
+{
+    return givenOptions;
+}
+
+bool takeRandomOptions(int &argc, char **argv)
+{
+    givenOptions = RandomOptions();
+    int kept = 1;
+    for (int i = 1; i < argc; ++i) {
+        const bool isSeed = qstrcmp(argv[i], "--seed") == 0;
+        if (!isSeed && qstrcmp(argv[i], "--steps") != 0) {
+            argv[kept++] = argv[i];
+            continue;
+        }
+        bool ok = false;
+        const uint number = i + 1 < argc ? QByteArray(argv[i + 1]).toUInt(&ok) : 0;
+        if (!ok || (!isSeed && number > 10000000)) {
+            std::fprintf(stderr, "%s needs a number\n", argv[i]);
+            return false;
+        }
+        if (isSeed)
+            givenOptions.seed = number;
+        else
+            givenOptions.steps = int(number);
+        ++i;
+    }
+    argc = kept;
+    argv[argc] = nullptr;
+    return true;
+}
+
 std::unique_ptr<QGuiApplication> makeApplication(int &argc, char **argv)
 {
+    if (!takeRandomOptions(argc, argv))
+        std::exit(2);
     auto app = std::make_unique<QGuiApplication>(argc, argv);
     QGuiApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 12));
     return app;

@@ -57,12 +57,14 @@ QSGNode *ToyItem::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *)
     if (width() <= 0 || height() <= 0) {
         delete oldNode;
         m_pictureSet = false;
+        m_hadNodes = false;
         return nullptr;
     }
     auto *root = static_cast<QSGRectangleNode *>(oldNode);
     if (!root) {
         root = window()->createRectangleNode();
-        m_pictureSet = m_mistake == StaleAfterWindow && m_pictureWasSet;
+        m_pictureSet = m_mistake == StaleAfterWindow && m_hadNodes;
+        m_hadNodes = true;
     }
     if (root->rect() != boundingRect())
         root->setRect(boundingRect());
@@ -70,8 +72,6 @@ QSGNode *ToyItem::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *)
     if (root->color() != color || m_mistake == AlwaysDirty)
         root->setColor(color);
     updatePicture(root);
-    if (m_mistake == UpdateFromPaint)
-        QMetaObject::invokeMethod(this, &QQuickItem::update, Qt::DirectConnection);
     return root;
 }
 

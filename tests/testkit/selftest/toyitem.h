@@ -25,7 +25,6 @@ public:
         StaleAfterWindow,    // a new window's nodes miss the picture
         WrongPictureOrder,   // the picture's place depends on what was set first
         AlwaysDirty,         // every paint update paints the whole item
-        UpdateFromPaint,     // asks for the next frame in each frame
     };
 
     explicit ToyItem(Mistake mistake = NoMistake, QQuickItem *parent = nullptr);
@@ -58,6 +57,7 @@ private:
     QObject *m_style = nullptr;
     bool m_pictureSet = false;
     bool m_pictureWasSet = false;
+    bool m_hadNodes = false;
 };
 
 #endif // STBTEST_TOYITEM_H

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "testkit/qmlscene.h"
+
+#include <QtQml/qqmlcomponent.h>
+
+namespace stbtest {
+
+QmlScene::QmlScene()
+{
+    m_engine.addImportPath(QStringLiteral(STBTEST_QML_IMPORT_PATH));
+}
+
+QQmlEngine *QmlScene::engine()
+{
+    return &m_engine;
+}
+
+std::unique_ptr<QObject> QmlScene::createObject(const QString &text)
+{
+    m_errorString.clear();
+    QQmlComponent component(&m_engine);
+    component.setData(text.toUtf8(), QUrl(QStringLiteral("qrc:/test/text.qml")));
+    std::unique_ptr<QObject> object(component.isReady() ? component.create() : nullptr);
+    if (!object || component.isError()) {
+        fail(component.errorString());
+        return nullptr;
+    }
+    return object;
+}
+
+QString QmlScene::errorString() const
+{
+    return m_errorString;
+}
+
+void QmlScene::fail(const QString &message)
+{
+    m_errorString = message;
+    qWarning("%s", qPrintable(message));
+}
+
+} // namespace stbtest
