@@ -6,11 +6,8 @@
 #include <QtGui/qguiapplication.h>
 #include <QtTest/qtest.h>
 
-<<<<<<< HEAD
 #include <memory>
-=======
 #include <optional>
->>>>>>> c73b3c6 (testkit: a property walk, counters, golden pictures and a fake platform)
 
 namespace stbtest {
 
@@ -34,13 +31,6 @@ protected Q_SLOTS:
 */
 void setUpEnvironment();
 
-<<<<<<< HEAD
-/*!
-    The application object of a test program, with the fonts that pictures rely on. The random options are taken
-    out of \a argc and \a argv; one without a number ends the program with exit code 2.
-*/
-std::unique_ptr<QGuiApplication> makeApplication(int &argc, char **argv);
-=======
 /*! What the command line asks of random tests: "--seed N" and "--steps N", each absent when not given. */
 struct RandomOptions
 {
@@ -55,9 +45,11 @@ RandomOptions randomOptions();
 */
 bool takeRandomOptions(int &argc, char **argv);
 
-/*! Runs \a test with a QGuiApplication; what STB_TEST_MAIN expands to. */
-int runTest(QObject *test, int argc, char **argv);
->>>>>>> c73b3c6 (testkit: a property walk, counters, golden pictures and a fake platform)
+/*!
+    The application object of a test program, with the fonts that pictures rely on. The random options are taken
+    out of \a argc and \a argv; one without a number ends the program with exit code 2.
+*/
+std::unique_ptr<QGuiApplication> makeApplication(int &argc, char **argv);
 
 } // namespace stbtest
 
