@@ -39,7 +39,10 @@ def environment(options):
     if options.library_path:
         kept["LD_LIBRARY_PATH"] = options.library_path
     if options.preload:
-        kept["LD_PRELOAD"] = options.preload
+        # The variable is a list with blanks between its entries, and the build's path may have some.
+        preload = pathlib.Path(folder) / "preload.so"
+        preload.symlink_to(options.preload)
+        kept["LD_PRELOAD"] = str(preload)
     return kept
 
 
