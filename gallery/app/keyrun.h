@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#ifndef GALLERY_APP_KEYRUN_H
+#define GALLERY_APP_KEYRUN_H
+
+#include <QtCore/qlist.h>
+#include <QtCore/qobject.h>
+
+class QQuickWindow;
+
+namespace gallery {
+
+/*!
+    Presses remote keys in a window as a person would: one after the other, each when the picture that the one
+    before has led to is on screen.
+*/
+class KeyRun : public QObject
+{
+    Q_OBJECT
+public:
+    /*! Presses \a keys in \a window, which is visible. Lives as a child of the window. */
+    KeyRun(const QList<Qt::Key> &keys, QQuickWindow *window);
+
+    void start();
+
+Q_SIGNALS:
+    /*! All keys are handled and the picture that came of them has been rendered. */
+    void finished();
+
+private:
+    void next();
+
+    QList<Qt::Key> m_keys;
+    QQuickWindow *m_window;
+};
+
+} // namespace gallery
+
+#endif // GALLERY_APP_KEYRUN_H

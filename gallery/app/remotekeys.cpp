@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#include "app/remotekeys.h"
+
+#include <QtCore/qregularexpression.h>
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+using namespace Qt::StringLiterals;
+
+namespace gallery {
+
+namespace {
+
+struct NamedKey
+{
+    QLatin1StringView name;
+    Qt::Key key;
+};
+
+constexpr std::array namedKeys {
+    NamedKey { "Up"_L1, Qt::Key_Up },
+    NamedKey { "Down"_L1, Qt::Key_Down },
+    NamedKey { "Left"_L1, Qt::Key_Left },
+    NamedKey { "Right"_L1, Qt::Key_Right },
+    NamedKey { "PageUp"_L1, Qt::Key_PageUp },
+    NamedKey { "PageDown"_L1, Qt::Key_PageDown },
+    NamedKey { "Home"_L1, Qt::Key_Home },
+    NamedKey { "End"_L1, Qt::Key_End },
+    NamedKey { "Return"_L1, Qt::Key_Return },
+    NamedKey { "Enter"_L1, Qt::Key_Enter },
+    NamedKey { "Select"_L1, Qt::Key_Select },
+    NamedKey { "Back"_L1, Qt::Key_Back },
+    NamedKey { "Escape"_L1, Qt::Key_Escape },
+    NamedKey { "Backspace"_L1, Qt::Key_Backspace },
+};
+
+} // namespace
+
+QStringList remoteKeyNames()
+{
+    QStringList names;
+    std::transform(namedKeys.begin(), namedKeys.end(), std::back_inserter(names),
+                   [](const NamedKey &named) { return QString(named.name); });
+    return names;
+}
+
+RemoteKeys parseRemoteKeys(const QString &text)
+{
+    static const QRegularExpression separators(u"[\\s,]+"_s);
+    RemoteKeys result;
+    const QStringList words = text.split(separators, Qt::SkipEmptyParts);
+    for (const QString &word : words) {
+        const auto named
+                = std::find_if(namedKeys.begin(), namedKeys.end(), [&word](const NamedKey &candidate) {
+                      return word.compare(candidate.name, Qt::CaseInsensitive) == 0;
+                  });
+        if (named == namedKeys.end()) {
+            result.unknown = word;
+            return result;
+        }
+        result.keys.append(named->key);
+    }
+    return result;
+}
+
+} // namespace gallery

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#include <QtCore/qcoreapplication.h>
+
+// The words that the controls look up at run time. They stand here for lupdate, which finds no call that
+// names them, so that the catalogues keep them.
+namespace {
+
+[[maybe_unused]] constexpr const char *controlKeys[] {
+    //: Label on a programme that is on air
+    QT_TRANSLATE_NOOP("QObject", "NOW_IN_LIVE"),
+    //: Status of a programme that cannot be watched
+    QT_TRANSLATE_NOOP("QObject", "WATCH_UNAVAILABLE"),
+    //: Status of a programme that is to come
+    QT_TRANSLATE_NOOP("QObject", "LIVE_SOON"),
+    //: Action: be reminded of a programme
+    QT_TRANSLATE_NOOP("QObject", "ADD_REMINDER"),
+    //: Action: no longer be reminded of a programme
+    QT_TRANSLATE_NOOP("QObject", "DELETE_REMINDER"),
+    //: On the channel that plays now
+    QT_TRANSLATE_NOOP("QObject", "PLAYING"),
+    //: Status: a reminder is set for this programme
+    QT_TRANSLATE_NOOP("stbui::EpgListModel", "REMINDER_WAS_SET"),
+    //: Before the time at which a programme starts: "At 20:05"
+    QT_TRANSLATE_NOOP("stbui::EpgListModel", "ON"),
+    //: Status: this programme plays now
+    QT_TRANSLATE_NOOP("stbui::EpgListModel", "PLAYING"),
+};
+
+} // namespace

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+import Gallery
+
+// The channels; the chosen one is marked and kept in sight. Keys never act here.
+ListView {
+    id: list
+
+    readonly property int rowHeight: Math.round(60 * Look.unit)
+
+    interactive: false
+    clip: true
+    highlightMoveDuration: 0
+    highlightRangeMode: ListView.ApplyRange
+    preferredHighlightBegin: (height - rowHeight) / 2
+    preferredHighlightEnd: (height + rowHeight) / 2
+    highlight: Rectangle {
+        color: Look.raised
+        radius: Look.radius
+
+        Rectangle {
+            anchors.left: parent.left
+            anchors.verticalCenter: parent.verticalCenter
+            width: Look.tiny
+            height: parent.height - 2 * Look.radius
+            color: Look.accent
+        }
+    }
+    delegate: Item {
+        id: row
+
+        required property int index
+        required property string name
+        required property string number
+        required property string nowTitle
+
+        width: list.width
+        height: list.rowHeight
+        Accessible.role: Accessible.ListItem
+        Accessible.name: name
+
+        Label {
+            id: numberLabel
+
+            anchors.left: parent.left
+            anchors.leftMargin: Look.medium
+            anchors.verticalCenter: parent.verticalCenter
+            width: Math.round(44 * Look.unit)
+            text: row.number
+            color: Look.quietText
+        }
+        Column {
+            anchors.left: numberLabel.right
+            anchors.leftMargin: Look.small
+            anchors.right: parent.right
+            anchors.rightMargin: Look.medium
+            anchors.verticalCenter: parent.verticalCenter
+
+            Label {
+                width: parent.width
+                text: row.name
+                color: row.ListView.isCurrentItem ? Look.text : Look.quietText
+                font.bold: row.ListView.isCurrentItem
+            }
+            Label {
+                width: parent.width
+                visible: text.length > 0
+                text: row.nowTitle
+                font: Look.caption
+                color: Look.quietText
+            }
+        }
+    }
+}

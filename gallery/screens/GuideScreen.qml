@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+import Gallery
+
+// The programme guide: channels, the day's programmes of the chosen channel, and the chosen programme.
+FocusScope {
+    id: screen
+
+    required property GuideController guide
+
+    width: Look.screenWidth
+    height: Look.screenHeight
+    focus: true
+    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
+    Keys.onPressed: event => event.accepted = guide.press(event.key)
+
+    Binding {
+        screen.guide.mirrored: screen.LayoutMirroring.enabled
+        screen.guide.rowsPerPage: programmes.visibleRows
+    }
+    Rectangle {
+        anchors.fill: parent
+        color: Look.backdrop
+    }
+    ScreenHeader {
+        id: header
+
+        anchors.top: parent.top
+        anchors.topMargin: Look.safeY
+        anchors.left: parent.left
+        anchors.leftMargin: Look.safeX
+        anchors.right: parent.right
+        anchors.rightMargin: Look.safeX
+        dayText: screen.guide.dayText
+        clockText: screen.guide.clockText
+    }
+    ChannelList {
+        id: channels
+
+        anchors.top: header.bottom
+        anchors.topMargin: Look.medium
+        anchors.bottom: summary.top
+        anchors.bottomMargin: Look.medium
+        anchors.left: header.left
+        anchors.right: programmes.left
+        anchors.rightMargin: Look.large
+        model: screen.guide.channels
+        currentIndex: screen.guide.channelRow
+    }
+    ProgrammeList {
+        id: programmes
+
+        anchors.top: channels.top
+        anchors.bottom: channels.bottom
+        anchors.right: header.right
+        width: implicitWidth
+        focus: true
+        model: screen.guide.programmes
+        currentIndex: screen.guide.programmeRow
+    }
+    FocusPlate {
+        anchors.top: programmes.top
+        anchors.left: programmes.left
+        anchors.right: programmes.right
+        height: nothing.height + 2 * Look.medium
+        visible: screen.guide.programmeRow < 0 && !screen.guide.loading
+
+        Label {
+            id: nothing
+
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.top: parent.top
+            anchors.margins: Look.medium
+            text: screen.guide.channelRow < 0 ? qsTr("There are no channels in this guide")
+                                              : qsTr("No programmes on this day")
+            color: Look.textOnFocus
+        }
+    }
+    Label {
+        id: summary
+
+        anchors.bottom: footer.top
+        anchors.bottomMargin: Look.small
+        anchors.left: programmes.left
+        anchors.leftMargin: programmes.rowPadding
+        anchors.right: header.right
+        height: 2 * metrics.lineSpacing
+        text: screen.guide.description
+        font: Look.caption
+        color: Look.quietText
+        wrapMode: Text.Wrap
+        maximumLineCount: 2
+    }
+    FontMetrics {
+        id: metrics
+
+        font: Look.caption
+    }
+    Label {
+        id: footer
+
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: Look.safeY
+        anchors.left: header.left
+        anchors.right: header.right
+        text: screen.guide.message.length > 0 ? screen.guide.message
+                                              : qsTr("◀ ▶ Channel     ▲ ▼ Programme     OK Details     BACK Now")
+        font: Look.hint
+        color: Look.quietText
+    }
+    LoadingView {
+        anchors.fill: parent
+        visible: screen.guide.loading
+        progress: screen.guide.loadProgress
+    }
+    DetailsOverlay {
+        anchors.fill: parent
+        visible: screen.guide.detailsOpen
+        guide: screen.guide
+    }
+}

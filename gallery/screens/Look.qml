@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+pragma Singleton
+import QtQuick
+import Stbui.UI.Qml.Design
+
+// What the screens take from the theme: measures that grow with the resolution, fonts by use, colours by role.
+QtObject {
+    readonly property int screenWidth: QmlDesignSystem.layouts.screenWidth
+    readonly property int screenHeight: QmlDesignSystem.layouts.screenHeight
+    // A standard definition screen has no room for a third column.
+    readonly property bool wide: screenWidth >= 1200
+
+    // Television sets may hide the outer twentieth of the picture on each side.
+    readonly property int safeX: Math.ceil(screenWidth / 20)
+    readonly property int safeY: Math.ceil(screenHeight / 20)
+
+    readonly property real unit: wide ? screenHeight / 720 : 0.8
+    readonly property int hairline: Math.max(1, Math.round(unit))
+    readonly property int tiny: Math.round(4 * unit)
+    readonly property int small: Math.round(8 * unit)
+    readonly property int medium: Math.round(16 * unit)
+    readonly property int large: Math.round(24 * unit)
+    readonly property int huge: Math.round(40 * unit)
+    readonly property int radius: Math.round(8 * unit)
+    readonly property int barHeight: Math.round(4 * unit)
+
+    readonly property font headline: QmlDesignSystem.unscaledFont(FontHd.H2, FontSd.H2)
+    readonly property font heading: QmlDesignSystem.unscaledFont(FontHd.H4, FontSd.H4)
+    readonly property font body: QmlDesignSystem.unscaledFont(FontHd.Body, FontSd.H5)
+    readonly property font caption: QmlDesignSystem.unscaledFont(FontHd.Caption1, FontSd.H6)
+    readonly property font hint: QmlDesignSystem.unscaledFont(FontHd.Caption2, FontSd.H6)
+
+    readonly property color backdrop: QmlDesignSystem.colors.oslo
+    readonly property color surface: QmlDesignSystem.colors.bamako
+    readonly property color raised: QmlDesignSystem.colors.bogota
+    readonly property color text: QmlDesignSystem.colors.sochi
+    readonly property color quietText: QmlDesignSystem.colors.lima
+    readonly property color track: QmlDesignSystem.colors.sochi20
+    readonly property color accent: QmlDesignSystem.colors.berlin
+    readonly property color focus: QmlDesignSystem.colors.quito
+    readonly property color textOnFocus: QmlDesignSystem.colors.oslo
+    readonly property color alert: QmlDesignSystem.colors.dakar
+}

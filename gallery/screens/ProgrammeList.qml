@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+import Stbui.UI.Qml.Controls.Basic
+import Stbui.UI.Qml.Design
+import Gallery
+
+// The day's programmes of the chosen channel.
+ListView {
+    id: list
+
+    // How many rows fit, on average.
+    readonly property int visibleRows: count > 0 ? Math.floor(height * count / contentHeight) : 1
+    readonly property int rowPadding: Look.medium
+    readonly property rect textArea: QmlDesignSystem.playerEpgDelegateStyle.style.previewRect
+
+    implicitWidth: textArea.x + textArea.width + 2 * rowPadding
+    interactive: false
+    clip: true
+    highlightMoveDuration: 0
+    highlightRangeMode: ListView.ApplyRange
+    preferredHighlightBegin: height * 0.25
+    preferredHighlightEnd: height * 0.75
+    highlight: FocusPlate {}
+    delegate: Item {
+        id: row
+
+        required property string title
+        required property string subtitle
+        required property string startTimeText
+        required property bool isLive
+        required property bool isFuture
+        required property bool isPlayable
+
+        width: list.width
+        // A row measures one pixel less than what it paints.
+        height: programme.height + 1 + 2 * Look.small
+        Accessible.role: Accessible.ListItem
+        Accessible.name: startTimeText + " " + title
+
+        EpgViewDelegate {
+            id: programme
+
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.margins: list.rowPadding
+            y: Look.small
+            style: row.ListView.isCurrentItem ? focusedStyle : QmlDesignSystem.playerEpgDelegateStyle
+            itemTitle: row.title
+            itemSubtitle: row.subtitle
+            tvProgramStartTimeText: row.startTimeText
+            tvProgramIsLive: row.isLive
+            tvProgramIsFuture: row.isFuture
+            // There is no recording to go back to: what is over is dimmed, what is to come is not.
+            tvProgramPlayable: row.isFuture
+        }
+    }
+
+    FocusedRowStyle {
+        id: focusedStyle
+
+        base: QmlDesignSystem.playerEpgDelegateStyle
+        color: Look.textOnFocus
+    }
+}

@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+#ifndef GALLERY_SCREENS_GUIDECONTROLLER_H
+#define GALLERY_SCREENS_GUIDECONTROLLER_H
+
+#include "gallery/data/guide.h"
+#include "gallery/data/guideloader.h"
+#include "gallery/data/programmemodel.h"
+#include "screens/channelnowmodel.h"
+
+#include <QtCore/qobject.h>
+#include <QtQml/qqmlregistration.h>
+
+namespace gallery {
+
+class Clock;
+
+/*!
+    What the guide screen shows and how remote keys change it: one channel of the guide is chosen, and of this
+    channel's programmes of the day one is chosen too. QML shows the properties and hands every key to press().
+*/
+class GuideController : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QAbstractItemModel *channels READ channels CONSTANT)
+    Q_PROPERTY(QAbstractItemModel *programmes READ programmes CONSTANT)
+    /*! Row of the chosen channel in \c channels; -1 without channels. */
+    Q_PROPERTY(int channelRow READ channelRow NOTIFY selectionChanged)
+    /*! Row of the chosen programme in \c programmes; -1 when the channel has none on this day. */
+    Q_PROPERTY(int programmeRow READ programmeRow NOTIFY selectionChanged)
+    Q_PROPERTY(QString channelName READ channelName NOTIFY selectionChanged)
+    Q_PROPERTY(QString channelNumber READ channelNumber NOTIFY selectionChanged)
+    /*! The channels beside the chosen one, as Left and Right reach them; empty at the ends. */
+    Q_PROPERTY(QString leftChannelName READ leftChannelName NOTIFY selectionChanged)
+    Q_PROPERTY(QString rightChannelName READ rightChannelName NOTIFY selectionChanged)
+
+    /*! The chosen programme; empty without one. */
+    Q_PROPERTY(QString title READ title NOTIFY selectionChanged)
+    Q_PROPERTY(QString subtitle READ subtitle NOTIFY selectionChanged)
+    Q_PROPERTY(QString description READ description NOTIFY selectionChanged)
+    Q_PROPERTY(QString category READ category NOTIFY selectionChanged)
+    /*! "20:00 – 21:30". */
+    Q_PROPERTY(QString timeRange READ timeRange NOTIFY selectionChanged)
+    Q_PROPERTY(bool live READ isLive NOTIFY nowChanged)
+    /*! How much of the chosen programme is over, 0 to 1. */
+    Q_PROPERTY(double progress READ progress NOTIFY nowChanged)
+
+    /*! Day and time of the clock as the language writes them. */
+    Q_PROPERTY(QString dayText READ dayText NOTIFY nowChanged)
+    Q_PROPERTY(QString clockText READ clockText NOTIFY nowChanged)
+
+    Q_PROPERTY(bool detailsOpen READ isDetailsOpen NOTIFY detailsOpenChanged)
+    Q_PROPERTY(bool loading READ isLoading NOTIFY loadingChanged)
+    /*! How much of the guide's file is read, 0 to 1. */
+    Q_PROPERTY(double loadProgress READ loadProgress NOTIFY loadProgressChanged)
+    /*! What was wrong with the guide's file; empty when nothing was. */
+    Q_PROPERTY(QString message READ message NOTIFY messageChanged)
+
+    /*! How many rows a page key moves by, at least 1; the view knows how many it shows. */
+    Q_PROPERTY(int rowsPerPage READ rowsPerPage WRITE setRowsPerPage NOTIFY rowsPerPageChanged)
+    /*! Whether the screen is laid out from right to left: the next channel is on the left then. */
+    Q_PROPERTY(bool mirrored READ isMirrored WRITE setMirrored NOTIFY selectionChanged)
+    QML_ELEMENT
+    QML_UNCREATABLE("The application makes it.")
+public:
+    /*! \a clock tells the present and must outlive this object. */
+    explicit GuideController(Clock *clock, QObject *parent = nullptr);
+
+    /*! Reads the guide \a fileName, choosing texts in \a language, and shows it; see GuideLoader. */
+    void load(const QString &fileName, const QString &language);
+    /*! Shows \a guide: the first channel that has something on now, and the programme that is on. */
+    void setGuide(const Guide &guide);
+    /*! What the last reading gave. */
+    GuideReport report() const { return m_loader.report(); }
+
+    QAbstractItemModel *channels() { return &m_channels; }
+    QAbstractItemModel *programmes() { return &m_programmes; }
+    int channelRow() const { return m_channelRow; }
+    int programmeRow() const { return m_programmeRow; }
+
+    QString channelName() const { return channelNameAt(m_channelRow); }
+    QString channelNumber() const;
+    QString leftChannelName() const { return channelNameAt(m_channelRow + channelStep(Qt::Key_Left)); }
+    QString rightChannelName() const { return channelNameAt(m_channelRow + channelStep(Qt::Key_Right)); }
+
+    QString title() const { return chosen(ProgrammeModel::TitleRole).toString(); }
+    QString subtitle() const { return chosen(ProgrammeModel::SubtitleRole).toString(); }
+    QString description() const { return chosen(ProgrammeModel::DescriptionRole).toString(); }
+    QString category() const { return chosen(ProgrammeModel::CategoryRole).toString(); }
+    QString timeRange() const;
+    bool isLive() const { return chosen(ProgrammeModel::IsLiveRole).toBool(); }
+    double progress() const { return chosen(ProgrammeModel::ProgressRole).toDouble(); }
+
+    QString dayText() const;
+    QString clockText() const;
+
+    bool isDetailsOpen() const { return m_detailsOpen; }
+    bool isLoading() const { return m_loader.isLoading(); }
+    double loadProgress() const { return m_loader.progress(); }
+    QString message() const { return m_loader.error(); }
+
+    int rowsPerPage() const { return m_rowsPerPage; }
+    void setRowsPerPage(int rows);
+    bool isMirrored() const { return m_mirrored; }
+    void setMirrored(bool mirrored);
+
+    /*!
+        Handles a remote key; false when it means nothing here.
+
+        Up, Down, Page Up, Page Down, Home and End choose another programme of the channel. Left and Right choose
+        the channel beside it and there the programme that is on at the same time, however many channels are
+        passed. Return shows or hides the programme's details. Back hides them, else returns to what is on now,
+        else asks to leave.
+    */
+    Q_INVOKABLE bool press(int key);
+
+Q_SIGNALS:
+    void selectionChanged();
+    void nowChanged();
+    void detailsOpenChanged();
+    void loadingChanged();
+    void loadProgressChanged();
+    void messageChanged();
+    void rowsPerPageChanged();
+    /*! A guide is there to be shown, be it an empty one. */
+    void guideShown();
+    /*! Back was pressed where there is nothing to go back to. */
+    void leaveRequested();
+
+private:
+    QVariant chosen(ProgrammeModel::Role role) const;
+    QString channelNameAt(int row) const;
+    int channelStep(int key) const;
+    int firstChannelOnAir(const Guide &guide) const;
+    void chooseChannel(int row);
+    void chooseProgramme(int row);
+    void chooseNow();
+    void goBack();
+    void setDetailsOpen(bool open);
+    void tick();
+
+    Clock *m_clock;
+    GuideLoader m_loader;
+    ChannelNowModel m_channels;
+    ProgrammeModel m_programmes;
+    QDateTime m_anchor; // the time that a change of channel keeps
+    int m_channelRow = -1;
+    int m_programmeRow = -1;
+    int m_rowsPerPage = 1;
+    bool m_mirrored = false;
+    bool m_detailsOpen = false;
+};
+
+} // namespace gallery
+
+#endif // GALLERY_SCREENS_GUIDECONTROLLER_H
