@@ -45,7 +45,7 @@ class QmlSettings : public QObject
     Q_PROPERTY(bool slidingAnimationsEnabled READ slidingAnimationsEnabled CONSTANT)
     /*! Always true: animations that never end, such as a busy indicator's. */
     Q_PROPERTY(bool permanentAnimationsEnabled READ permanentAnimationsEnabled CONSTANT)
-    QML_ELEMENT
+    QML_NAMED_ELEMENT(QmlSettings)
     QML_SINGLETON
 public:
     /*! Answers from \a manager, which is not owned and must outlive this object. */

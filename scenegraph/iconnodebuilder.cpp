@@ -79,8 +79,8 @@ void IconNodeBuilder::colorize(const QColor &color)
     m_color = color;
 }
 
-QSGImageNode *IconNodeBuilder::createNode(QSGContext *context, QSGRenderContext *renderContext, QSGNode *parent,
-                                          QSGNode *before)
+QSGImageNode *IconNodeBuilder::createNode(QSGContext *context, QSGRenderContext *renderContext,
+                                          QSGNode *parent, QSGNode *before)
 {
     if (!m_pixmap.isNull())
         m_changed = true; // a node made again gets its picture

@@ -124,7 +124,8 @@ QSGImageNode *createEmptyImageNode(QSGContext *context, QSGRenderContext *render
     return node;
 }
 
-QSGRectangleNode *createRectangleNode(QSGContext *context, const QColor &color, QSGNode *parent, QSGNode *before)
+QSGRectangleNode *createRectangleNode(QSGContext *context, const QColor &color, QSGNode *parent,
+                                      QSGNode *before)
 {
     QSGRectangleNode *node = context->createRectangleNode();
     node->setColor(color);

@@ -72,8 +72,8 @@ void TextNodeBuilder::relayoutRenderer()
     tryPushToCache();
 }
 
-QSGImageNode *TextNodeBuilder::createNode(QSGContext *context, QSGRenderContext *renderContext, QSGNode *parent,
-                                          QSGNode *before)
+QSGImageNode *TextNodeBuilder::createNode(QSGContext *context, QSGRenderContext *renderContext,
+                                          QSGNode *parent, QSGNode *before)
 {
     return createEmptyImageNode(context, renderContext, parent, before);
 }
@@ -133,10 +133,12 @@ bool TextNodeBuilder::tryAttachingFromCache(const QString &text, const QFont &fo
 {
     if (!m_cachingEnabled || text.isEmpty())
         return false;
-    const auto found = std::find_if(m_cachedTexts.cbegin(), m_cachedTexts.cend(), [&](const DataPointer &entry) {
-        const Data *data = entry.constData();
-        return data->renderer.text() == text && data->color == color && data->renderer.textFont() == font;
-    });
+    const auto found = std::find_if(m_cachedTexts.cbegin(), m_cachedTexts.cend(),
+                                    [&](const DataPointer &entry) {
+                                        const Data *data = entry.constData();
+                                        return data->renderer.text() == text && data->color == color
+                                               && data->renderer.textFont() == font;
+                                    });
     if (found == m_cachedTexts.cend())
         return false;
     if (found->constData() != m_data.constData())
@@ -159,7 +161,7 @@ void TextNodeBuilder::shrinkCache()
     const auto leastUsed = std::min_element(m_cachedTexts.cbegin(), m_cachedTexts.cend(),
                                             [](const DataPointer &left, const DataPointer &right) {
                                                 return left.constData()->ref.loadRelaxed()
-                                                        < right.constData()->ref.loadRelaxed();
+                                                       < right.constData()->ref.loadRelaxed();
                                             });
     if (leastUsed != m_cachedTexts.cend())
         m_cachedTexts.erase(leastUsed);

@@ -241,8 +241,8 @@ QSGNode *StbEpgViewDelegatePrivate::createRoot()
 
 QSGRectangleNode *StbEpgViewDelegatePrivate::updateBadge(ChildNodes &children, const Style &style)
 {
-    auto *badge = children.place<QSGRectangleNode>(
-            m_live, m_liveNodesPresent, [&](QSGNode *root, QSGNode *before) {
+    auto *badge =
+            children.place<QSGRectangleNode>(m_live, m_liveNodesPresent, [&](QSGNode *root, QSGNode *before) {
                 QSGContext *context = sceneGraphContext();
                 QSGRenderContext *renderContext = sceneGraphRenderContext();
                 QSGRectangleNode *node = createRectangleNode(context, style.liveBadgeColor, root, before);
@@ -281,7 +281,8 @@ QSGNode *StbEpgViewDelegate::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeDa
     d->updateBadge(children, style);
     d->updateExtendedNodes(style, children.last());
 
-    const QColor titleColor = d->m_live || d->m_playable ? style.playableTextColor : style.unavailableTextColor;
+    const QColor titleColor = d->m_live || d->m_playable ? style.playableTextColor
+                                                         : style.unavailableTextColor;
     d->m_startTimeText.updateNode(startTime, d->m_live ? style.liveStartTimeColor : titleColor, nullptr);
     d->m_title.updateNode(title, titleColor, nullptr);
     d->m_subtitle.updateNode(subtitle, style.subtitleTextStyle.color, nullptr);

@@ -30,8 +30,8 @@ class StbEpgViewDelegate : public QQuickItem
         The design. Not owned; one that is destroyed counts as null. The row takes the values over when it is
         given a style object, and does not listen to later changes inside it. Null by default; resettable.
     */
-    Q_PROPERTY(design_system::PlayerEpgDelegateQmlStyle *style READ style WRITE setStyle RESET resetStyle NOTIFY
-                       styleChanged)
+    Q_PROPERTY(design_system::PlayerEpgDelegateQmlStyle *style READ style WRITE setStyle RESET resetStyle
+                       NOTIFY styleChanged)
     /*! The programme's title: the style's playable colour if live or playable, else the unavailable one. */
     Q_PROPERTY(QString itemTitle READ title WRITE setTitle NOTIFY titleChanged)
     /*! The line below the title; takes the title's place when that is empty. */

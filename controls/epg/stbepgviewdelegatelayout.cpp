@@ -26,16 +26,17 @@ int placeBadge(StbEpgViewDelegateLayout &layout, const design_system::PlayerEpgD
 
     layout.liveIndicator = indicator;
     layout.liveText = label;
-    layout.liveBadge = QRect(left, y, label.width() + indicator.width() + 2 * padding + style.liveBadgeIconSpacing,
+    layout.liveBadge = QRect(left, y,
+                             label.width() + indicator.width() + 2 * padding + style.liveBadgeIconSpacing,
                              2 * padding + std::max(label.height(), indicator.height()));
     return layout.liveBadge.bottom() + 1
-            + (extended ? style.liveBadgeBottomSpacingExtended : style.liveBadgeBottomSpacing);
+           + (extended ? style.liveBadgeBottomSpacingExtended : style.liveBadgeBottomSpacing);
 }
 
 } // namespace
 
-StbEpgViewDelegateLayout
-StbEpgViewDelegateLayout::compute(const design_system::PlayerEpgDelegateStyle &style, const Content &content)
+StbEpgViewDelegateLayout StbEpgViewDelegateLayout::compute(const design_system::PlayerEpgDelegateStyle &style,
+                                                           const Content &content)
 {
     StbEpgViewDelegateLayout layout;
     layout.startTime = content.startTime; // stays where its renderer put it

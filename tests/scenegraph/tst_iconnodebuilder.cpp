@@ -131,7 +131,8 @@ private Q_SLOTS:
                 << qRgba(255, 255, 255, 128) << qRgba(255, 0, 0, 255) << qRgba(255, 0, 0, 128);
         QTest::newRow("both half transparent: 64.25 is cut to 64")
                 << qRgba(255, 255, 255, 128) << qRgba(255, 0, 0, 128) << qRgba(255, 0, 0, 64);
-        QTest::newRow("opaque black stays") << qRgba(0, 0, 0, 255) << qRgba(255, 0, 0, 255) << qRgba(0, 0, 0, 255);
+        QTest::newRow("opaque black stays")
+                << qRgba(0, 0, 0, 255) << qRgba(255, 0, 0, 255) << qRgba(0, 0, 0, 255);
         QTest::newRow("transparent black stays")
                 << qRgba(0, 0, 0, 0) << qRgba(255, 0, 0, 255) << qRgba(0, 0, 0, 0);
         QTest::newRow("half-transparent black stays")
@@ -145,7 +146,8 @@ private Q_SLOTS:
         QFETCH(QRgb, tint);
         QFETCH(QRgb, result);
         IconNodeBuilder icon;
-        icon.load(write(QStringLiteral("p%1.png").arg(source), pixels({ source, source })), QColor::fromRgba(tint));
+        icon.load(write(QStringLiteral("p%1.png").arg(source), pixels({ source, source })),
+                  QColor::fromRgba(tint));
         QCOMPARE(pixel(icon.pixmap(), 0), result);
         QCOMPARE(pixel(icon.pixmap(), 1), result);
     }

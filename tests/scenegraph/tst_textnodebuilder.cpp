@@ -18,8 +18,14 @@ public:
             texts += entry.constData()->renderer.text();
         return texts;
     }
-    static const TextNodeBuilder::Data *cached(qsizetype i) { return TextNodeBuilder::m_cachedTexts.at(i).constData(); }
-    static const TextNodeBuilder::Data *data(const TextNodeBuilder &builder) { return builder.m_data.constData(); }
+    static const TextNodeBuilder::Data *cached(qsizetype i)
+    {
+        return TextNodeBuilder::m_cachedTexts.at(i).constData();
+    }
+    static const TextNodeBuilder::Data *data(const TextNodeBuilder &builder)
+    {
+        return builder.m_data.constData();
+    }
 };
 
 } // namespace qml_basic_plugin

@@ -10,7 +10,7 @@ namespace {
 bool isTransparent(const QPixmap &pixmap)
 {
     return pixmap.toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied)
-            == filled(pixmap.size(), Qt::transparent);
+           == filled(pixmap.size(), Qt::transparent);
 }
 
 } // namespace

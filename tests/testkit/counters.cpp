@@ -8,9 +8,8 @@
 
 #include <atomic>
 
-#if __has_include(<stbcore/textcounters.h>)
+#ifdef STBTEST_COUNTS_TEXTS
 #  include <stbcore/textcounters.h>
-#  define STBTEST_COUNTS_TEXTS
 #endif
 
 namespace stbtest {

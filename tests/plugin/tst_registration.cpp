@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+#include "testkit/fakeplatform.h"
+#include "testkit/qmlscene.h"
+#include "testkit/testcase.h"
+
+#include <QtCore/qfile.h>
+#include <QtCore/qjsonarray.h>
+#include <QtCore/qjsonobject.h>
+#include <QtCore/qpluginloader.h>
+#include <QtCore/qregularexpression.h>
+#include <QtQml/qqmlcomponent.h>
+
+class tst_Registration : public stbtest::TestCase
+{
+    Q_OBJECT
+
+    static QByteArray read(const QString &path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+private Q_SLOTS:
+    void thePluginTellsWhoItIsWithoutBeingLoaded()
+    {
+        const QJsonObject metaData = QPluginLoader(QStringLiteral(STBTEST_PLUGIN)).metaData();
+        QCOMPARE(metaData.value("IID").toString(), "org.qt-project.Qt.QQmlEngineExtensionInterface");
+        QCOMPARE(metaData.value("className").toString(), "Stbui_UI_Qml_Controls_BasicPlugin");
+        QCOMPARE(metaData.value("uri").toArray(), QJsonArray { "Stbui.UI.Qml.Controls.Basic" });
+    }
+
+    void bothWaysToImportShowTheElements_data()
+    {
+        QTest::addColumn<QString>("import");
+        QTest::newRow("without version") << "import Stbui.UI.Qml.Controls.Basic";
+        QTest::newRow("1.0") << "import Stbui.UI.Qml.Controls.Basic 1.0";
+        QTest::newRow("major version alone") << "import Stbui.UI.Qml.Controls.Basic 1";
+    }
+    void bothWaysToImportShowTheElements()
+    {
+        QFETCH(QString, import);
+        stbtest::MemoryConfiguration store;
+        stbtest::QmlScene scene;
+        const auto row = scene.createItem(
+                import + "\nEpgViewDelegate { tvProgramIsFuture: QmlSettings.permanentAnimationsEnabled }");
+        QVERIFY(row);
+        QCOMPARE(QLatin1String(row->metaObject()->className()), QLatin1String("StbEpgViewDelegate"));
+        QCOMPARE(row->property("tvProgramIsFuture"), QVariant(true));
+    }
+
+    void anotherMinorVersionOrNameDoesNotExist_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("a later version") << "import Stbui.UI.Qml.Controls.Basic 1.7\nEpgViewDelegate {}";
+        QTest::newRow("the class's own name") << "import Stbui.UI.Qml.Controls.Basic\nStbEpgViewDelegate {}";
+        QTest::newRow("the anonymous base") << "import Stbui.UI.Qml.Controls.Basic\nQQuickItem {}";
+        QTest::newRow("nor as Item") << "import Stbui.UI.Qml.Controls.Basic\nItem {}";
+    }
+    void anotherMinorVersionOrNameDoesNotExist()
+    {
+        QFETCH(QString, text);
+        stbtest::QmlScene scene;
+        QQmlComponent component(scene.engine());
+        component.setData(text.toUtf8(), QUrl());
+        QVERIFY(component.isError());
+    }
+
+    void theTypesAreRegisteredInTheirOrder()
+    {
+        const QStringList order { "StbButton",
+                                  "QQuickItem",
+                                  "StbButtonWithCheckIndicator",
+                                  "StbContentTile",
+                                  "StbEpgDate",
+                                  "StbEpgViewDelegate",
+                                  "StbEpgViewDelegateFocused",
+                                  "StbEpisodesViewDelegate",
+                                  "StbExpandableTile",
+                                  "StbHorizontalEpgViewDelegate",
+                                  "StbTvChannelViewDelegate",
+                                  "StbVodTile",
+                                  "qml::QmlSettings" };
+        const QRegularExpression registration("qmlRegister(?:TypesAndRevisions|AnonymousType)<([\\w:]+)");
+        QStringList registered;
+        auto match = registration.globalMatch(read(STBTEST_REGISTRATIONS));
+        while (match.hasNext())
+            registered += match.next().captured(1);
+        QVERIFY(registered.contains("StbEpgViewDelegate"));
+        QVERIFY(registered.contains("qml::QmlSettings"));
+        // The anonymous base stands behind the first element that derives from it.
+        QCOMPARE(registered.indexOf("QQuickItem"), 1);
+        registered.removeOne("QQuickItem");
+        QStringList expected = order;
+        expected.removeIf([&](const QString &name) { return !registered.contains(name); });
+        QCOMPARE(registered, expected);
+    }
+
+    void theMetaTypesAreRegisteredAlongside()
+    {
+        stbtest::QmlScene scene;
+        QVERIFY(scene.createItem("import Stbui.UI.Qml.Controls.Basic\nEpgViewDelegate {}"));
+        for (const char *name : { "StbEpgViewDelegate*", "QQmlListProperty<StbEpgViewDelegate>",
+                                  "QQuickItem*", "QQmlListProperty<QQuickItem>", "qml::QmlSettings*",
+                                  "design_system::PlayerEpgDelegateQmlStyle*" })
+            QVERIFY2(QMetaType::fromName(name).isValid(), name);
+    }
+
+    void theQmldirStandsInTheResources()
+    {
+        const QByteArray qmldir = read(":/Stbui/UI/Qml/Controls/Basic/qmldir");
+        QVERIFY(qmldir.startsWith("module Stbui.UI.Qml.Controls.Basic\n"
+                                  "linktarget qmlbasiccontrolsextensionplugin\n"
+                                  "optional plugin qmlbasiccontrolsextensionplugin\n"));
+    }
+
+    void theResourceSetHasItsOwnFunctions()
+    {
+        // The names are what a statically linked program calls; that they link is the test.
+        QVERIFY(qInitQmldir());
+        QVERIFY(QFile::exists(":/Stbui/UI/Qml/Controls/Basic/qmldir"));
+    }
+
+    void thePluginFileIsNotLoadedBesideTheLinkedClasses()
+    {
+        stbtest::QmlScene scene;
+        QVERIFY(scene.createItem("import Stbui.UI.Qml.Controls.Basic\nEpgViewDelegate {}"));
+        const QByteArray maps = read("/proc/self/maps");
+        QVERIFY(maps.contains("libQt6Qml"));
+        QVERIFY(!maps.contains("qmlbasiccontrolsextensionplugin.so"));
+    }
+
+private:
+    static bool qInitQmldir();
+};
+
+// Q_INIT_RESOURCE declares the function where it stands, which must be outside any namespace or class.
+int qInitResources_qmake_Stbui_UI_Qml_Controls_Basic();
+bool tst_Registration::qInitQmldir()
+{
+    return qInitResources_qmake_Stbui_UI_Qml_Controls_Basic() != 0;
+}
+
+STB_TEST_MAIN(tst_Registration)
+#include "tst_registration.moc"
