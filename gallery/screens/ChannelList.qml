@@ -6,26 +6,12 @@ import Gallery
 ListView {
     id: list
 
-    readonly property int rowHeight: Math.round(60 * Look.unit)
+    readonly property int rowHeight: Math.round(68 * Look.unit)
 
     interactive: false
     clip: true
-    highlightMoveDuration: 0
-    highlightRangeMode: ListView.ApplyRange
-    preferredHighlightBegin: (height - rowHeight) / 2
-    preferredHighlightEnd: (height + rowHeight) / 2
-    highlight: Rectangle {
-        color: Look.raised
-        radius: Look.radius
-
-        Rectangle {
-            anchors.left: parent.left
-            anchors.verticalCenter: parent.verticalCenter
-            width: Look.tiny
-            height: parent.height - 2 * Look.radius
-            color: Look.accent
-        }
-    }
+    highlightFollowsCurrentItem: false
+    onCurrentItemChanged: positionViewAtIndex(currentIndex, ListView.Center)
     delegate: Item {
         id: row
 
@@ -39,6 +25,20 @@ ListView {
         Accessible.role: Accessible.ListItem
         Accessible.name: name
 
+        Rectangle {
+            anchors.fill: parent
+            visible: row.ListView.isCurrentItem
+            color: Look.raised
+            radius: Look.radius
+
+            Rectangle {
+                anchors.left: parent.left
+                anchors.verticalCenter: parent.verticalCenter
+                width: Look.tiny
+                height: parent.height - 2 * Look.radius
+                color: Look.accent
+            }
+        }
         Label {
             id: numberLabel
 
@@ -60,7 +60,6 @@ ListView {
                 width: parent.width
                 text: row.name
                 color: row.ListView.isCurrentItem ? Look.text : Look.quietText
-                font.bold: row.ListView.isCurrentItem
             }
             Label {
                 width: parent.width

@@ -78,37 +78,92 @@ FocusScope {
             color: Look.textOnFocus
         }
     }
-    Label {
+    EdgeFade {
+        anchors.top: programmes.top
+        anchors.left: programmes.left
+        anchors.right: programmes.right
+        visible: !programmes.atYBeginning
+    }
+    EdgeFade {
+        anchors.bottom: programmes.bottom
+        anchors.left: programmes.left
+        anchors.right: programmes.right
+        rotation: 180
+        visible: !programmes.atYEnd
+    }
+    Rectangle {
         id: summary
 
         anchors.bottom: footer.top
         anchors.bottomMargin: Look.small
         anchors.left: programmes.left
-        anchors.leftMargin: programmes.rowPadding
-        anchors.right: header.right
-        height: 2 * metrics.lineSpacing
-        text: screen.guide.description
-        font: Look.caption
-        color: Look.quietText
-        wrapMode: Text.Wrap
-        maximumLineCount: 2
-    }
-    FontMetrics {
-        id: metrics
+        anchors.right: programmes.right
+        height: text.height + 2 * Look.small
+        color: Look.surface
+        radius: Look.radius
 
-        font: Look.caption
+        Label {
+            id: text
+
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            anchors.margins: Look.medium
+            height: Math.ceil(2.1 * metrics.lineSpacing)
+            text: screen.guide.description
+            font: Look.caption
+            color: Look.quietText
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
+            verticalAlignment: Text.AlignVCenter
+        }
+        FontMetrics {
+            id: metrics
+
+            font: Look.caption
+        }
     }
-    Label {
+    Item {
         id: footer
 
         anchors.bottom: parent.bottom
         anchors.bottomMargin: Look.safeY
         anchors.left: header.left
         anchors.right: header.right
-        text: screen.guide.message.length > 0 ? screen.guide.message
-                                              : qsTr("◀ ▶ Channel     ▲ ▼ Programme     OK Details     BACK Now")
-        font: Look.hint
-        color: Look.quietText
+        height: hints.height
+
+        Label {
+            anchors.left: parent.left
+            anchors.right: hints.left
+            anchors.rightMargin: Look.large
+            anchors.verticalCenter: parent.verticalCenter
+            text: screen.guide.message
+            font: Look.hint
+            color: Look.quietText
+        }
+        Row {
+            id: hints
+
+            anchors.right: parent.right
+            spacing: Look.large
+
+            KeyHint {
+                key: "◀ ▶"
+                text: qsTr("Channel")
+            }
+            KeyHint {
+                key: "▲ ▼"
+                text: qsTr("Programme")
+            }
+            KeyHint {
+                key: qsTr("OK", "a key of the remote control")
+                text: qsTr("Details")
+            }
+            KeyHint {
+                key: qsTr("BACK", "a key of the remote control")
+                text: qsTr("On now")
+            }
+        }
     }
     LoadingView {
         anchors.fill: parent

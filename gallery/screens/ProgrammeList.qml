@@ -16,11 +16,10 @@ ListView {
     implicitWidth: textArea.x + textArea.width + 2 * rowPadding
     interactive: false
     clip: true
-    highlightMoveDuration: 0
-    highlightRangeMode: ListView.ApplyRange
-    preferredHighlightBegin: height * 0.25
-    preferredHighlightEnd: height * 0.75
-    highlight: FocusPlate {}
+    // The chosen row stays in the middle as far as the ends of the list allow, at once: a view that follows a
+    // highlight gets there in steps of an animation, and is elsewhere when a key comes in between.
+    highlightFollowsCurrentItem: false
+    onCurrentItemChanged: positionViewAtIndex(currentIndex, ListView.Center)
     delegate: Item {
         id: row
 
@@ -37,6 +36,10 @@ ListView {
         Accessible.role: Accessible.ListItem
         Accessible.name: startTimeText + " " + title
 
+        FocusPlate {
+            anchors.fill: parent
+            visible: row.ListView.isCurrentItem
+        }
         EpgViewDelegate {
             id: programme
 
