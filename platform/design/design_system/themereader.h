@@ -45,6 +45,7 @@ public:
 
 private:
     void readTables(const QJsonObject &part, const QString &path, double scale, ThemeWarnings &warnings);
+    void setFamilies(const QStringList &families);
     void readColors(const QJsonValue &colors, const QString &path, ThemeWarnings &warnings);
     void readFonts(const QJsonValue &fonts, const QString &path, double scale, ThemeWarnings &warnings);
 
@@ -53,6 +54,7 @@ private:
     double m_textScale;
     QHash<QString, QColor> m_tokens;
     QHash<QString, QFont> m_fonts;
+    QFont m_plainFont; // what a role starts from
     std::vector<std::unique_ptr<ThemeFile>> m_files;
 };
 
