@@ -9,6 +9,7 @@
 
 #include <QtCore/qdir.h>
 #include <QtCore/qtextstream.h>
+#include <QtCore/qtimer.h>
 #include <QtGui/qguiapplication.h>
 #include <QtQml/qqmlengine.h>
 #include <QtQml/qqmlextensionplugin.h>
@@ -97,7 +98,6 @@ bool Application::start()
     if (!setUpLanguage() || !setUpView())
         return false;
     loadGuide();
-    m_view->show();
     return true;
 }
 
@@ -134,7 +134,7 @@ bool Application::setUpView()
     for (const QString &folder : folders)
         m_view->engine()->addImportPath(folder);
     m_view->engine()->addImportPath(u"qrc:/"_s);
-    m_view->setTitle(tr("TV guide"));
+    m_view->setTitle(QCoreApplication::translate("ScreenHeader", "TV guide"));
     m_view->setResizeMode(QQuickView::SizeViewToRootObject);
     m_view->setInitialProperties({ { u"guide"_s, QVariant::fromValue(m_guide.get()) } });
     m_view->setSource(QUrl(u"qrc:/Gallery/GuideScreen.qml"_s));
@@ -152,11 +152,34 @@ bool Application::setUpView()
 
 void Application::loadGuide()
 {
-    connect(m_guide.get(), &GuideController::guideShown, this, &Application::runKeys, Qt::QueuedConnection);
-    if (m_options.guideFile.isEmpty())
+    connect(m_guide.get(), &GuideController::guideShown, this, &Application::showScreen, Qt::QueuedConnection);
+    if (m_options.guideFile.isEmpty()) {
         m_guide->setGuide(ownGuide(m_clock->now(), m_language));
-    else
-        m_guide->load(m_options.guideFile, m_language);
+        return;
+    }
+    m_guide->load(m_options.guideFile, m_language);
+    // A file that is no guide is refused without a window flashing up; a long one shows its progress soon.
+    QTimer::singleShot(200, m_view.get(), &QWindow::show);
+}
+
+void Application::showScreen()
+{
+    disconnect(m_guide.get(), &GuideController::guideShown, this, nullptr);
+    const bool unreadable = m_guide->report().outcome == GuideReport::Outcome::Unreadable;
+    if (!m_options.guideFile.isEmpty() && unreadable) {
+        fail(ExitCode::Usage, m_guide->report().error);
+        return;
+    }
+    m_view->show();
+    auto *run = new KeyRun(m_options.keys, m_view.get());
+    connect(run, &KeyRun::finished, this, &Application::finishPicture);
+    run->start();
+}
+
+void Application::fail(ExitCode code, const QString &message)
+{
+    printError(message);
+    Q_EMIT finished(code);
 }
 
 bool Application::hasWantedRenderer() const
@@ -165,27 +188,17 @@ bool Application::hasWantedRenderer() const
     return m_options.backend.isEmpty() || software == (m_options.backend == "software"_L1);
 }
 
-void Application::runKeys()
-{
-    disconnect(m_guide.get(), &GuideController::guideShown, this, nullptr);
-    auto *run = new KeyRun(m_options.keys, m_view.get());
-    connect(run, &KeyRun::finished, this, &Application::finishPicture);
-    run->start();
-}
-
 void Application::finishPicture()
 {
     if (!hasWantedRenderer()) {
-        printError(u"the renderer \"%1\" is not available here"_s.arg(m_options.backend));
-        Q_EMIT finished(ExitCode::Failure);
+        fail(ExitCode::Failure, u"the renderer \"%1\" is not available here"_s.arg(m_options.backend));
         return;
     }
     if (!wantsPictures(m_options))
         return;
     const QString path = QDir(m_options.screenshotsFolder).filePath(u"guide.png"_s);
     if (!m_view->grabWindow().save(path)) {
-        printError(u"cannot write \"%1\""_s.arg(path));
-        Q_EMIT finished(ExitCode::Failure);
+        fail(ExitCode::Failure, u"cannot write \"%1\""_s.arg(path));
         return;
     }
     QTextStream(stdout) << path << Qt::endl;

@@ -52,8 +52,9 @@ private:
     bool setUpView();
     void loadGuide();
     bool hasWantedRenderer() const;
-    void runKeys();
+    void showScreen();
     void finishPicture();
+    void fail(ExitCode code, const QString &message);
 
     Options m_options;
     RunConfiguration m_configuration;

@@ -23,11 +23,12 @@ struct Language
     QLocale::Territory territory;
 };
 
+// In the Emirates Arabic dates are written with the digits that the programmes' times have.
 constexpr std::array languages {
     Language { "en"_L1, QLocale::English, QLocale::UnitedKingdom },
     Language { "ru"_L1, QLocale::Russian, QLocale::Russia },
     Language { "de"_L1, QLocale::German, QLocale::Germany },
-    Language { "ar"_L1, QLocale::Arabic, QLocale::Egypt },
+    Language { "ar"_L1, QLocale::Arabic, QLocale::UnitedArabEmirates },
 };
 
 const Language *findLanguage(const QString &code)

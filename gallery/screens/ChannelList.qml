@@ -45,13 +45,14 @@ ListView {
             anchors.left: parent.left
             anchors.leftMargin: Look.medium
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.round(44 * Look.unit)
+            width: Look.wide ? Math.round(44 * Look.unit) : 0
+            visible: Look.wide
             text: row.number
             color: Look.quietText
         }
         Column {
             anchors.left: numberLabel.right
-            anchors.leftMargin: Look.small
+            anchors.leftMargin: Look.wide ? Look.small : 0
             anchors.right: parent.right
             anchors.rightMargin: Look.medium
             anchors.verticalCenter: parent.verticalCenter

@@ -16,19 +16,23 @@ Item {
     FocusPlate {
         anchors.centerIn: parent
         width: Math.min(Math.round(860 * Look.unit), parent.width - 2 * Look.safeX)
-        height: Math.min(Math.round(480 * Look.unit), parent.height - 2 * Look.safeY)
+        height: card.height + 2 * Look.tiny
 
         Rectangle {
-            anchors.fill: parent
-            anchors.margins: Look.tiny
+            id: card
+
+            anchors.centerIn: parent
+            width: parent.width - 2 * Look.tiny
+            height: facts.height + 2 * Look.huge
             color: Look.surface
             radius: Look.radius - Look.tiny / 2
 
             ProgrammeFacts {
-                anchors.fill: parent
-                anchors.margins: Look.huge
+                id: facts
+
+                anchors.centerIn: parent
+                width: parent.width - 2 * Look.huge
                 guide: overlay.guide
-                titleFont: Look.headline
             }
         }
     }

@@ -40,8 +40,7 @@ FocusScope {
 
         anchors.top: header.bottom
         anchors.topMargin: Look.medium
-        anchors.bottom: summary.top
-        anchors.bottomMargin: Look.medium
+        anchors.bottom: summary.bottom
         anchors.left: header.left
         anchors.right: programmes.left
         anchors.rightMargin: Look.large
@@ -52,7 +51,8 @@ FocusScope {
         id: programmes
 
         anchors.top: channels.top
-        anchors.bottom: channels.bottom
+        anchors.bottom: summary.top
+        anchors.bottomMargin: Look.medium
         anchors.right: header.right
         width: implicitWidth
         focus: true
@@ -78,18 +78,13 @@ FocusScope {
             color: Look.textOnFocus
         }
     }
-    EdgeFade {
-        anchors.top: programmes.top
-        anchors.left: programmes.left
-        anchors.right: programmes.right
-        visible: !programmes.atYBeginning
+    EdgeFades {
+        anchors.fill: channels
+        list: channels
     }
-    EdgeFade {
-        anchors.bottom: programmes.bottom
-        anchors.left: programmes.left
-        anchors.right: programmes.right
-        rotation: 180
-        visible: !programmes.atYEnd
+    EdgeFades {
+        anchors.fill: programmes
+        list: programmes
     }
     Rectangle {
         id: summary
@@ -98,24 +93,35 @@ FocusScope {
         anchors.bottomMargin: Look.small
         anchors.left: programmes.left
         anchors.right: programmes.right
-        height: text.height + 2 * Look.small
+        height: times.height + description.height + 2 * Look.small
+        visible: screen.guide.programmeRow >= 0
         color: Look.surface
         radius: Look.radius
 
         Label {
-            id: text
+            id: times
 
+            anchors.top: parent.top
             anchors.left: parent.left
             anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
-            anchors.margins: Look.medium
+            anchors.topMargin: Look.small
+            anchors.leftMargin: Look.medium
+            anchors.rightMargin: Look.medium
+            text: screen.guide.timeRange
+            font: Look.caption
+        }
+        Label {
+            id: description
+
+            anchors.top: times.bottom
+            anchors.left: times.left
+            anchors.right: times.right
             height: Math.ceil(2.1 * metrics.lineSpacing)
             text: screen.guide.description
             font: Look.caption
             color: Look.quietText
             wrapMode: Text.Wrap
             maximumLineCount: 2
-            verticalAlignment: Text.AlignVCenter
         }
         FontMetrics {
             id: metrics

@@ -3,6 +3,7 @@
 
 #include "gallery/data/clock.h"
 
+#include <QtCore/qcoreapplication.h>
 #include <QtCore/qlocale.h>
 
 #include <algorithm>
@@ -94,12 +95,20 @@ QString GuideController::dayText() const
 {
     const QLocale locale;
     //: Weekday, day and month without the year, in the form that QLocale::toString() takes
-    return locale.toString(m_clock->now().date(), tr("dddd, d MMMM"));
+    return locale.toString(m_clock->now().date(), QCoreApplication::translate("GuideScreen", "dddd, d MMMM"));
 }
 
 QString GuideController::clockText() const
 {
     return m_clock->now().toString(u"HH:mm"_s);
+}
+
+QString GuideController::message() const
+{
+    if (m_loader.error().isEmpty())
+        return {};
+    //: %1 says what is wrong, and where in the file
+    return QCoreApplication::translate("GuideScreen", "The guide is not complete: %1").arg(m_loader.error());
 }
 
 void GuideController::setRowsPerPage(int rows)

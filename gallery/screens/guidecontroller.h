@@ -96,7 +96,7 @@ public:
     bool isDetailsOpen() const { return m_detailsOpen; }
     bool isLoading() const { return m_loader.isLoading(); }
     double loadProgress() const { return m_loader.progress(); }
-    QString message() const { return m_loader.error(); }
+    QString message() const;
 
     int rowsPerPage() const { return m_rowsPerPage; }
     void setRowsPerPage(int rows);

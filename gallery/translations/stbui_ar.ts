@@ -1,60 +1,116 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="ar_EG" sourcelanguage="en">
+<TS version="2.1" language="ar_AE" sourcelanguage="en">
+<context>
+    <name>GuideScreen</name>
+    <message>
+        <source>There are no channels in this guide</source>
+        <translation>لا توجد قنوات في هذا الدليل</translation>
+    </message>
+    <message>
+        <source>No programmes on this day</source>
+        <translation>لا توجد برامج في هذا اليوم</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>القناة</translation>
+    </message>
+    <message>
+        <source>Programme</source>
+        <translation>البرنامج</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>التفاصيل</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>رجوع</translation>
+    </message>
+    <message>
+        <source>On now</source>
+        <translation>الآن</translation>
+    </message>
+    <message>
+        <source>dddd, d MMMM</source>
+        <extracomment>Weekday, day and month without the year, in the form that QLocale::toString() takes</extracomment>
+        <translation>dddd، d MMMM</translation>
+    </message>
+    <message>
+        <source>The guide is not complete: %1</source>
+        <extracomment>%1 says what is wrong, and where in the file</extracomment>
+        <translation>الدليل غير مكتمل: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LoadingView</name>
+    <message>
+        <source>Reading the guide…</source>
+        <translation>جارٍ قراءة الدليل…</translation>
+    </message>
+</context>
 <context>
     <name>QObject</name>
     <message>
         <source>NOW_IN_LIVE</source>
+        <extracomment>Label on a programme that is on air</extracomment>
         <translation>مباشر</translation>
     </message>
     <message>
         <source>WATCH_UNAVAILABLE</source>
+        <extracomment>Status of a programme that cannot be watched</extracomment>
         <translation>المشاهدة غير متاحة</translation>
     </message>
     <message>
         <source>LIVE_SOON</source>
+        <extracomment>Status of a programme that is to come</extracomment>
         <translation>يُعرض قريبًا</translation>
     </message>
     <message>
         <source>ADD_REMINDER</source>
+        <extracomment>Action: be reminded of a programme</extracomment>
         <translation>ذكّرني</translation>
     </message>
     <message>
         <source>DELETE_REMINDER</source>
+        <extracomment>Action: no longer be reminded of a programme</extracomment>
         <translation>إلغاء التذكير</translation>
     </message>
     <message>
         <source>PLAYING</source>
+        <extracomment>On the channel that plays now</extracomment>
         <translation>يُعرض الآن</translation>
     </message>
 </context>
 <context>
-    <name>stbui::EpgListModel</name>
-    <message>
-        <source>REMINDER_WAS_SET</source>
-        <translation>تم ضبط التذكير</translation>
-    </message>
-    <message>
-        <source>ON</source>
-        <translation>الساعة</translation>
-    </message>
-    <message>
-        <source>PLAYING</source>
-        <translation>يُعرض الآن</translation>
-    </message>
-</context>
-<context>
-    <name>gallery::Application</name>
+    <name>ScreenHeader</name>
     <message>
         <source>TV guide</source>
         <translation>دليل البرامج</translation>
     </message>
 </context>
 <context>
-    <name>gallery::GuideController</name>
+    <name>stbui::EpgListModel</name>
     <message>
-        <source>dddd, d MMMM</source>
-        <translation>dddd، d MMMM</translation>
+        <source>REMINDER_WAS_SET</source>
+        <extracomment>Status: a reminder is set for this programme</extracomment>
+        <translation>تم ضبط التذكير</translation>
+    </message>
+    <message>
+        <source>ON</source>
+        <extracomment>Before the time at which a programme starts: &quot;At 20:05&quot;</extracomment>
+        <translation>الساعة</translation>
+    </message>
+    <message>
+        <source>PLAYING</source>
+        <extracomment>Status: this programme plays now</extracomment>
+        <translation>يُعرض الآن</translation>
     </message>
 </context>
 </TS>

@@ -2,59 +2,115 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU" sourcelanguage="en">
 <context>
+    <name>GuideScreen</name>
+    <message>
+        <source>There are no channels in this guide</source>
+        <translation>В этой программе нет каналов</translation>
+    </message>
+    <message>
+        <source>No programmes on this day</source>
+        <translation>На этот день передач нет</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Канал</translation>
+    </message>
+    <message>
+        <source>Programme</source>
+        <translation>Передача</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Подробнее</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>НАЗАД</translation>
+    </message>
+    <message>
+        <source>On now</source>
+        <translation>Сейчас</translation>
+    </message>
+    <message>
+        <source>dddd, d MMMM</source>
+        <extracomment>Weekday, day and month without the year, in the form that QLocale::toString() takes</extracomment>
+        <translation>dddd, d MMMM</translation>
+    </message>
+    <message>
+        <source>The guide is not complete: %1</source>
+        <extracomment>%1 says what is wrong, and where in the file</extracomment>
+        <translation>Программа неполная: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LoadingView</name>
+    <message>
+        <source>Reading the guide…</source>
+        <translation>Загрузка программы…</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>NOW_IN_LIVE</source>
-        <translation>В эфире</translation>
+        <extracomment>Label on a programme that is on air</extracomment>
+        <translation>В ЭФИРЕ</translation>
     </message>
     <message>
         <source>WATCH_UNAVAILABLE</source>
+        <extracomment>Status of a programme that cannot be watched</extracomment>
         <translation>Просмотр недоступен</translation>
     </message>
     <message>
         <source>LIVE_SOON</source>
+        <extracomment>Status of a programme that is to come</extracomment>
         <translation>Скоро в эфире</translation>
     </message>
     <message>
         <source>ADD_REMINDER</source>
+        <extracomment>Action: be reminded of a programme</extracomment>
         <translation>Напомнить</translation>
     </message>
     <message>
         <source>DELETE_REMINDER</source>
+        <extracomment>Action: no longer be reminded of a programme</extracomment>
         <translation>Удалить напоминание</translation>
     </message>
     <message>
         <source>PLAYING</source>
+        <extracomment>On the channel that plays now</extracomment>
         <translation>Воспроизводится</translation>
     </message>
 </context>
 <context>
-    <name>stbui::EpgListModel</name>
-    <message>
-        <source>REMINDER_WAS_SET</source>
-        <translation>Напоминание установлено</translation>
-    </message>
-    <message>
-        <source>ON</source>
-        <translation>В</translation>
-    </message>
-    <message>
-        <source>PLAYING</source>
-        <translation>Воспроизводится</translation>
-    </message>
-</context>
-<context>
-    <name>gallery::Application</name>
+    <name>ScreenHeader</name>
     <message>
         <source>TV guide</source>
         <translation>Телепрограмма</translation>
     </message>
 </context>
 <context>
-    <name>gallery::GuideController</name>
+    <name>stbui::EpgListModel</name>
     <message>
-        <source>dddd, d MMMM</source>
-        <translation>dddd, d MMMM</translation>
+        <source>REMINDER_WAS_SET</source>
+        <extracomment>Status: a reminder is set for this programme</extracomment>
+        <translation>Напоминание установлено</translation>
+    </message>
+    <message>
+        <source>ON</source>
+        <extracomment>Before the time at which a programme starts: &quot;At 20:05&quot;</extracomment>
+        <translation>В</translation>
+    </message>
+    <message>
+        <source>PLAYING</source>
+        <extracomment>Status: this programme plays now</extracomment>
+        <translation>Воспроизводится</translation>
     </message>
 </context>
 </TS>
