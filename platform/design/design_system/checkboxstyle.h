@@ -2,8 +2,8 @@
 #ifndef DESIGN_SYSTEM_CHECKBOXSTYLE_H
 #define DESIGN_SYSTEM_CHECKBOXSTYLE_H
 
-#include <design_system/stylegroups.h>
 #include <design_system/statescolors.h>
+#include <design_system/stylegroups.h>
 
 #include <QtCore/qlist.h>
 #include <QtCore/qobject.h>

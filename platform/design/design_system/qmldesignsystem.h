@@ -39,8 +39,8 @@ namespace design_system {
     The theme is read when the singleton is made. The configuration names its file ("UI"/"theme"; none: the
     compiled-in theme), the screen's resolution ("UI"/"resolution": "hd", "fullhd" or "sd"; "hd" when there is
     none, and with a warning when it is another word) and how much larger or smaller than designed its texts
-    are ("UI"/"textScale", 1 when there is none, kept between 0.75 and 1.5). What cannot be used in a theme file
-    is a warning each, and the compiled-in theme's value stands in for it; see docs/themes.md.
+    are ("UI"/"textScale", 1 when there is none, kept between 0.75 and 1.5). What cannot be used in a theme
+    file is a warning each, and the compiled-in theme's value stands in for it; see docs/themes.md.
 
     A change of theme gives every property a new object. All of them are in place before the first change
     signal is emitted, so that a listener may read any property; the signals come in the order of the
@@ -62,14 +62,14 @@ class STBDESIGN_EXPORT QmlDesignSystem : public QObject
     Q_PROPERTY(design_system::TileQmlStyle *vodTileStyle READ vodTileStyle NOTIFY vodTileStyleChanged)
     Q_PROPERTY(design_system::PlayerEpgDelegateQmlStyle *playerEpgDelegateStyle READ playerEpgDelegateStyle
                        NOTIFY playerEpgDelegateStyleChanged)
-    Q_PROPERTY(design_system::PlayerHorizontalEpgViewQmlStyle *playerHorizontalEpgViewStyle READ playerHorizontalEpgViewStyle
-                       NOTIFY playerHorizontalEpgViewStyleChanged)
+    Q_PROPERTY(design_system::PlayerHorizontalEpgViewQmlStyle *playerHorizontalEpgViewStyle
+                       READ playerHorizontalEpgViewStyle NOTIFY playerHorizontalEpgViewStyleChanged)
     Q_PROPERTY(design_system::PlayerEpgDateQmlStyle *playerEpgDateStyle READ playerEpgDateStyle
                        NOTIFY playerEpgDateStyleChanged)
     Q_PROPERTY(design_system::PlayerEpisodesItemQmlStyle *playerEpisodesItemStyle READ playerEpisodesItemStyle
                        NOTIFY playerEpisodesItemStyleChanged)
-    Q_PROPERTY(design_system::PlayerTvChannelItemQmlStyle *playerTvChannelItemStyle READ playerTvChannelItemStyle
-                       NOTIFY playerTvChannelItemStyleChanged)
+    Q_PROPERTY(design_system::PlayerTvChannelItemQmlStyle *playerTvChannelItemStyle
+                       READ playerTvChannelItemStyle NOTIFY playerTvChannelItemStyleChanged)
     Q_PROPERTY(design_system::BusyIndicatorQmlStyle *busyIndicatorStyle READ busyIndicatorStyle
                        NOTIFY busyIndicatorStyleChanged)
     Q_PROPERTY(design_system::CheckBoxQmlStyle *standardCheckBoxStyle READ standardCheckBoxStyle
@@ -96,16 +96,31 @@ public:
     TileQmlStyle *expandableTileStyle() const { return &m_objects.back()->expandableTileStyle; }
     TileQmlStyle *contentTileStyle() const { return &m_objects.back()->contentTileStyle; }
     TileQmlStyle *vodTileStyle() const { return &m_objects.back()->vodTileStyle; }
-    PlayerEpgDelegateQmlStyle *playerEpgDelegateStyle() const { return &m_objects.back()->playerEpgDelegateStyle; }
-    PlayerHorizontalEpgViewQmlStyle *playerHorizontalEpgViewStyle() const { return &m_objects.back()->playerHorizontalEpgViewStyle; }
+    PlayerEpgDelegateQmlStyle *playerEpgDelegateStyle() const
+    {
+        return &m_objects.back()->playerEpgDelegateStyle;
+    }
+    PlayerHorizontalEpgViewQmlStyle *playerHorizontalEpgViewStyle() const
+    {
+        return &m_objects.back()->playerHorizontalEpgViewStyle;
+    }
     PlayerEpgDateQmlStyle *playerEpgDateStyle() const { return &m_objects.back()->playerEpgDateStyle; }
-    PlayerEpisodesItemQmlStyle *playerEpisodesItemStyle() const { return &m_objects.back()->playerEpisodesItemStyle; }
-    PlayerTvChannelItemQmlStyle *playerTvChannelItemStyle() const { return &m_objects.back()->playerTvChannelItemStyle; }
+    PlayerEpisodesItemQmlStyle *playerEpisodesItemStyle() const
+    {
+        return &m_objects.back()->playerEpisodesItemStyle;
+    }
+    PlayerTvChannelItemQmlStyle *playerTvChannelItemStyle() const
+    {
+        return &m_objects.back()->playerTvChannelItemStyle;
+    }
     BusyIndicatorQmlStyle *busyIndicatorStyle() const { return &m_objects.back()->busyIndicatorStyle; }
     CheckBoxQmlStyle *standardCheckBoxStyle() const { return &m_objects.back()->standardCheckBoxStyle; }
     KeyboardQmlStyle *keyboardStyle() const { return &m_objects.back()->keyboardStyle; }
     LineEditQmlStyle *lineEditStyle() const { return &m_objects.back()->lineEditStyle; }
-    MainMenuButtonQmlStyle *mainMenuButtonQmlStyle() const { return &m_objects.back()->mainMenuButtonQmlStyle; }
+    MainMenuButtonQmlStyle *mainMenuButtonQmlStyle() const
+    {
+        return &m_objects.back()->mainMenuButtonQmlStyle;
+    }
     TabButtonQmlStyle *tabButtonStyle() const { return &m_objects.back()->tabButtonStyle; }
     Colors *colors() const { return &m_objects.back()->colors; }
     Animation *animation() const { return &m_objects.back()->animation; }
@@ -116,9 +131,9 @@ public:
     AnimationSettings animationSettings() const { return animation()->settings(); }
 
     /*!
-        The font of the role \a sdFont (FontSd::Role) on a standard definition screen, of \a hdFont (FontHd::Role)
-        on any other; without the user's text scale, for texts whose place does not grow. A number that is no
-        role gives the font of FontHd::Body.
+        The font of the role \a sdFont (FontSd::Role) on a standard definition screen, of \a hdFont
+        (FontHd::Role) on any other; without the user's text scale, for texts whose place does not grow. A
+        number that is no role gives the font of FontHd::Body.
     */
     Q_INVOKABLE QFont unscaledFont(int hdFont, int sdFont) const;
 
@@ -129,14 +144,15 @@ public:
     Q_INVOKABLE QString resolution() const { return m_resolution; }
 
     /*!
-        Reads the theme file \a path, or goes back to the compiled-in theme when it is empty. Returns false, with
-        a warning, when the file cannot be read or is not JSON; every value is then the compiled-in theme's.
+        Reads the theme file \a path, or goes back to the compiled-in theme when it is empty. Returns false,
+        with a warning, when the file cannot be read or is not JSON; every value is then the compiled-in
+        theme's.
     */
     Q_INVOKABLE bool setTheme(const QString &path);
 
     /*!
-        Reads the theme anew for another \a resolution. Returns false, with a warning, and changes nothing when it
-        is none of "hd", "fullhd" and "sd".
+        Reads the theme anew for another \a resolution. Returns false, with a warning, and changes nothing
+        when it is none of "hd", "fullhd" and "sd".
     */
     Q_INVOKABLE bool setResolution(const QString &resolution);
 

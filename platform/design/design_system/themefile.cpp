@@ -78,7 +78,8 @@ void ThemeWarnings::add(const QString &problem)
 void ThemeWarnings::add(const QString &path, const QString &expected, const QJsonValue &actual)
 {
     constexpr int longestPath = 3 * longestQuote;
-    add(QStringLiteral("%1: expected %2, got %3").arg(quoted(path, longestPath), expected, described(actual)));
+    const QString where = quoted(path, longestPath);
+    add(QStringLiteral("%1: expected %2, got %3").arg(where, expected, described(actual)));
 }
 
 ThemeFile::ThemeFile(const QString &path)

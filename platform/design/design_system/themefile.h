@@ -8,8 +8,8 @@
 namespace design_system {
 
 /*!
-    Prints what is wrong in a theme file, a line each. Beyond the first twenty it only counts, and says how many
-    more there were when it goes.
+    Prints what is wrong in a theme file, a line each. Beyond the first twenty it only counts, and says how
+    many more there were when it goes.
 */
 class ThemeWarnings
 {

@@ -28,7 +28,7 @@ bool isRole(const QString &name)
         return false;
     };
     return names(QMetaEnum::fromType<FontHd::Role>(), key)
-            || (key.startsWith("Sd") && names(QMetaEnum::fromType<FontSd::Role>(), key.mid(2)));
+           || (key.startsWith("Sd") && names(QMetaEnum::fromType<FontSd::Role>(), key.mid(2)));
 }
 
 } // namespace
@@ -85,7 +85,8 @@ void ThemeReader::apply(QObject *root)
     }
 }
 
-void ThemeReader::readTables(const QJsonObject &part, const QString &path, double scale, ThemeWarnings &warnings)
+void ThemeReader::readTables(const QJsonObject &part, const QString &path, double scale,
+                             ThemeWarnings &warnings)
 {
     readColors(part.value(QStringLiteral("colors")), path + QStringLiteral("colors"), warnings);
     readFonts(part.value(QStringLiteral("fonts")), path + QStringLiteral("fonts"), scale, warnings);
@@ -112,7 +113,8 @@ void ThemeReader::setFamilies(const QStringList &families)
         font.setFamilies(families);
 }
 
-void ThemeReader::readFonts(const QJsonValue &fonts, const QString &path, double scale, ThemeWarnings &warnings)
+void ThemeReader::readFonts(const QJsonValue &fonts, const QString &path, double scale,
+                            ThemeWarnings &warnings)
 {
     if (!fonts.isObject() && !fonts.isUndefined())
         warnings.add(path, QStringLiteral("an object"), fonts);
@@ -135,7 +137,8 @@ void ThemeReader::readFonts(const QJsonValue &fonts, const QString &path, double
         // The roles of a standard definition screen are in its own pixels.
         const double roleScale = it.key().startsWith(QLatin1String("Sd")) ? 1 : scale;
         ThemeWriter writer({ m_tokens, m_fonts, roleScale, 1 }, warnings);
-        m_fonts[it.key()] = writer.font(it.value(), join(path, it.key()), m_fonts.value(it.key(), m_plainFont));
+        m_fonts[it.key()] = writer.font(it.value(), join(path, it.key()),
+                                        m_fonts.value(it.key(), m_plainFont));
     }
 }
 

@@ -15,7 +15,7 @@
 
 namespace design_system {
 
-/*! The names of the roles in a theme's "fonts": "Body" for FontHd::Body, "SdH4" for FontSd::H4; else empty. */
+/*! The name of a role in a theme's "fonts": "Body" for FontHd::Body, "SdH4" for FontSd::H4; else empty. */
 QString hdRoleName(int role);
 QString sdRoleName(int role);
 

@@ -34,7 +34,7 @@ std::optional<std::array<int, Count>> wholeNumbers(const QJsonValue &json)
     const QJsonArray array = json.toArray();
     if (array.size() != Count)
         return {};
-    std::array<int, Count> numbers{};
+    std::array<int, Count> numbers {};
     for (qsizetype i = 0; i < Count; ++i) {
         const std::optional<int> number = wholeNumber(array[i]);
         if (!number)
@@ -68,7 +68,7 @@ QVariant readPixelSize(const QJsonValue &json, const ValueContext &context)
     const std::optional<int> size = wholeNumber(json);
     if (!size || *size < 1 || *size > largestFont)
         return {};
-    return QVariant::fromValue(PixelSize{ scaled(*size, context.scale) });
+    return QVariant::fromValue(PixelSize { scaled(*size, context.scale) });
 }
 
 // Neighbours stay neighbours: the edges are scaled, not the sizes.
@@ -116,7 +116,8 @@ QVariant readLiteralColor(const QJsonValue &json, const ValueContext &)
     const QString text = json.toString();
     const QString hexDigits = QStringLiteral("0123456789abcdefABCDEF");
     const auto isHex = [&hexDigits](QChar c) { return hexDigits.contains(c); };
-    const bool hasLength = text.size() == qsizetype(sizeof "#RRGGBB" - 1) || text.size() == qsizetype(sizeof "#AARRGGBB" - 1);
+    const bool hasLength = text.size() == qsizetype(sizeof "#RRGGBB" - 1)
+                           || text.size() == qsizetype(sizeof "#AARRGGBB" - 1);
     if (!hasLength || text[0] != u'#' || !std::all_of(text.begin() + 1, text.end(), isHex))
         return {};
     return QColor(text);
@@ -149,7 +150,7 @@ QVariant readWeight(const QJsonValue &json, const ValueContext &)
 
 QVariant readFamily(const QJsonValue &json, const ValueContext &)
 {
-    const QJsonArray names = json.isString() ? QJsonArray{ json } : json.toArray();
+    const QJsonArray names = json.isString() ? QJsonArray { json } : json.toArray();
     const auto isName = [](const QJsonValue &name) { return !name.toString().isEmpty(); };
     if (names.isEmpty() || !std::all_of(names.begin(), names.end(), isName))
         return {};
@@ -209,7 +210,11 @@ const ValueKind *literalColorKind()
 
 FontKeys FontKeys::of(const QFont &font)
 {
-    return { {}, font.families(), { font.pixelSize() }, QFont::Weight(font.weight()), font.italic(),
+    return { {},
+             font.families(),
+             { font.pixelSize() },
+             QFont::Weight(font.weight()),
+             font.italic(),
              qRound(font.letterSpacing()) };
 }
 

@@ -146,7 +146,7 @@ QVariant ThemeWriter::composed(const QJsonValue &json, const QString &path, QVar
         return font(json, path, current.value<QFont>());
     if (current.metaType() == QMetaType::fromType<QPen>()) {
         auto pen = current.value<QPen>();
-        PenKeys keys{ pen.color(), pen.width() };
+        PenKeys keys { pen.color(), pen.width() };
         writeFields(json, path, ThemeFields(&PenKeys::staticMetaObject, &keys));
         pen.setColor(keys.color);
         pen.setWidth(keys.width);
@@ -163,13 +163,14 @@ QFont ThemeWriter::font(const QJsonValue &json, const QString &path, const QFont
         return roleFont(json, path, current, "a role of \"fonts\" or an object");
     QJsonObject values = json.toObject();
     const QJsonValue role = values.take(QStringLiteral("role"));
-    const QFont base = role.isUndefined()
-            ? current
-            : roleFont(role, path + QStringLiteral(".role"), current, "a role of \"fonts\"");
+    const QFont base = role.isUndefined() ? current
+                                          : roleFont(role, path + QStringLiteral(".role"), current,
+                                                     "a role of \"fonts\"");
     FontKeys keys = FontKeys::of(base);
     ValueContext context = m_context;
     context.scale *= context.textScale;
-    ThemeWriter(context, m_warnings).writeFields(values, path, ThemeFields(&FontKeys::staticMetaObject, &keys));
+    const ThemeFields fields(&FontKeys::staticMetaObject, &keys);
+    ThemeWriter(context, m_warnings).writeFields(values, path, fields);
     return keys.toFont();
 }
 

@@ -70,8 +70,7 @@ QJsonObject gadgetJson(const QVariant &gadget)
 {
     QJsonObject result;
     for (const QMetaProperty &property : fields(gadget.metaType().metaObject())) {
-        result.insert(QString::fromLatin1(property.name()),
-                      toJson(property.readOnGadget(gadget.constData())));
+        result.insert(QString::fromLatin1(property.name()), toJson(property.readOnGadget(gadget.constData())));
     }
     return result;
 }
@@ -132,23 +131,23 @@ QJsonValue toJson(const QVariant &value)
         return fontJson(value.value<QFont>());
     case QMetaType::QRect: {
         const QRect r = value.toRect();
-        return QJsonArray{ r.x(), r.y(), r.width(), r.height() };
+        return QJsonArray { r.x(), r.y(), r.width(), r.height() };
     }
     case QMetaType::QSize:
-        return QJsonArray{ value.toSize().width(), value.toSize().height() };
+        return QJsonArray { value.toSize().width(), value.toSize().height() };
     case QMetaType::QPoint:
-        return QJsonArray{ value.toPoint().x(), value.toPoint().y() };
+        return QJsonArray { value.toPoint().x(), value.toPoint().y() };
     case QMetaType::QPen: {
         const auto pen = value.value<QPen>();
-        return QJsonObject{ { QStringLiteral("color"), name(pen.color()) },
-                            { QStringLiteral("width"), pen.width() } };
+        return QJsonObject { { QStringLiteral("color"), name(pen.color()) },
+                             { QStringLiteral("width"), pen.width() } };
     }
     default:
         break;
     }
     if (value.metaType() == QMetaType::fromType<QMargins>()) {
         const auto m = value.value<QMargins>();
-        return QJsonArray{ m.left(), m.top(), m.right(), m.bottom() };
+        return QJsonArray { m.left(), m.top(), m.right(), m.bottom() };
     }
     if (value.metaType() == QMetaType::fromType<Qt::Alignment>()) {
         const auto flags = QMetaEnum::fromType<Qt::Alignment>();

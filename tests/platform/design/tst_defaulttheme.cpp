@@ -34,7 +34,7 @@ double contrast(const QColor &a, const QColor &b)
 bool mayBeAbsent(const QString &path)
 {
     return path.endsWith(QLatin1String(".overlayColor")) || path.endsWith(QLatin1String(".backgroundColor"))
-            || path.contains(QLatin1String(".colors.")) || path.endsWith(QLatin1String("Style.color"));
+           || path.contains(QLatin1String(".colors.")) || path.endsWith(QLatin1String("Style.color"));
 }
 
 } // namespace
@@ -47,7 +47,8 @@ class tst_DefaultTheme : public stbtest::TestCase
                      const std::function<void(const QString &, const QVariant &)> &visit)
     {
         for (const QMetaProperty &section : reflection::fields(system.metaObject())) {
-            reflection::visitFields(section.read(&system).value<QObject *>(), QString::fromLatin1(section.name()),
+            reflection::visitFields(section.read(&system).value<QObject *>(),
+                                    QString::fromLatin1(section.name()),
                                     [&](const QString &path, QObject *object, const QMetaProperty &property) {
                                         reflection::visitLeaves(property.read(object), path, visit);
                                     });
@@ -125,7 +126,8 @@ private Q_SLOTS:
             ++texts;
             bool byState = true;
             for (const char *state : { "normal", "checked", "disabled", "focused" })
-                byState = byState && colors.value(it.key() + QLatin1String("s.") + QLatin1String(state)).isValid();
+                byState = byState
+                          && colors.value(it.key() + QLatin1String("s.") + QLatin1String(state)).isValid();
             QVERIFY2(it->isValid() || byState, qPrintable(it.key()));
         }
         QVERIFY(texts > 30);
@@ -169,7 +171,9 @@ private Q_SLOTS:
     void textsStandOutFromWhatIsBehindThem()
     {
         const QmlDesignSystem theme;
-        const auto color = [&](const char *token) { return theme.colors()->token(QString::fromLatin1(token)); };
+        const auto color = [&](const char *token) {
+            return theme.colors()->token(QString::fromLatin1(token));
+        };
         constexpr double readable = 4.5;
         for (const char *surface : { "oslo", "bamako", "bogota" }) {
             QVERIFY(contrast(color("sochi"), color(surface)) >= readable);
@@ -187,8 +191,8 @@ private Q_SLOTS:
         const auto theme = system();
         const PlayerEpgDelegateStyle style = theme->playerEpgDelegateStyle()->style();
         const QColor screen = theme->colors()->token(QStringLiteral("oslo"));
-        for (const QColor &text : { style.liveStartTimeColor, style.unavailableTextColor, style.playableTextColor,
-                                    style.subtitleTextStyle.color })
+        for (const QColor &text : { style.liveStartTimeColor, style.unavailableTextColor,
+                                    style.playableTextColor, style.subtitleTextStyle.color })
             QVERIFY(contrast(text, screen) >= 4.5);
         QVERIFY(contrast(style.liveTextStyle.color, style.liveBadgeColor) >= 4.5);
         QVERIFY(luminance(style.unavailableTextColor) < luminance(style.playableTextColor));
@@ -233,7 +237,8 @@ private Q_SLOTS:
         const TileStyle small = theme.contentTileStyle()->style();
         QVERIFY(theme.setResolution(QStringLiteral("fullhd")));
         const TileStyle large = theme.contentTileStyle()->style();
-        QCOMPARE(large.tileRect.size(), QSize(small.tileRect.width() * 3 / 2, small.tileRect.height() * 3 / 2));
+        QCOMPARE(large.tileRect.size(),
+                 QSize(small.tileRect.width() * 3 / 2, small.tileRect.height() * 3 / 2));
         QCOMPARE(large.captionSpacing, small.captionSpacing * 3 / 2);
         QCOMPARE(large.titleStyle.font.pixelSize(), small.titleStyle.font.pixelSize() * 3 / 2);
         QCOMPARE(large.titleStyle.maxLineCount, small.titleStyle.maxLineCount);

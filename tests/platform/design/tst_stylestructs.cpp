@@ -117,7 +117,7 @@ private Q_SLOTS:
 
     void coloursByStateComeInTheOrderNormalCheckedDisabledFocused()
     {
-        const StatesColors colors{ Qt::red, Qt::green, Qt::blue, Qt::white };
+        const StatesColors colors { Qt::red, Qt::green, Qt::blue, Qt::white };
         QCOMPARE(colors.toList(), QList<QColor>({ Qt::red, Qt::green, Qt::blue, Qt::white }));
     }
 };
@@ -126,17 +126,16 @@ void tst_StyleStructs::everyFieldIsAPropertyOfTheSameNameAndType_data()
 {
     QTest::addColumn<QMetaType>("type");
     QTest::addColumn<QByteArray>("declarations");
-    QTest::newRow("StatesColors")
-            << QMetaType::fromType<StatesColors>()
-            << QByteArray("QColor normal; QColor checked; QColor disabled; QColor focused;");
+    QTest::newRow("StatesColors") << QMetaType::fromType<StatesColors>()
+                                  << QByteArray("QColor normal; QColor checked; QColor disabled; "
+                                                "QColor focused;");
     QTest::newRow("TextStyle")
             << QMetaType::fromType<TextStyle>()
             << QByteArray("QRect rect; QColor backgroundColor; QFont font; int maxLineCount; "
                           "Qt::Alignment alignment; QColor color; StatesColors colors; "
                           "int leftPadding; int topPadding; int rightPadding; int bottomPadding;");
     QTest::newRow("AnimationSettings")
-            << QMetaType::fromType<AnimationSettings>()
-            << QByteArray("int duration; int fadeDuration;");
+            << QMetaType::fromType<AnimationSettings>() << QByteArray("int duration; int fadeDuration;");
     QTest::newRow("QmlButtonStyle")
             << QMetaType::fromType<QmlButtonStyle>()
             << QByteArray("QRect size; int leftPadding; int iconTopOffset; int rightPadding; "
