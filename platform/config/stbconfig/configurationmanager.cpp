@@ -1,22 +1,30 @@
 // SPDX-License-Identifier: MIT
 #include "stbconfig/configurationmanager.h"
 
+#include "stbconfig/iniconfigurationmanager.h"
+
+#include <optional>
+
 namespace stbconfig {
 
 namespace {
-ConfigurationManager *currentManager = nullptr;
+std::optional<ConfigurationManager *> chosenManager; // empty: the choice is the reference store
 }
 
 ConfigurationManager::~ConfigurationManager() = default;
 
 ConfigurationManager *qmlConfigManager()
 {
-    return currentManager;
+    if (!chosenManager) {
+        static IniConfigurationManager referenceStore(IniConfigurationManager::defaultFileName());
+        return &referenceStore;
+    }
+    return *chosenManager;
 }
 
 void setQmlConfigManager(ConfigurationManager *manager)
 {
-    currentManager = manager;
+    chosenManager = manager;
 }
 
 } // namespace stbconfig

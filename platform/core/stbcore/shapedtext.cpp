@@ -78,20 +78,36 @@ qsizetype enoughCharacters(const TextShapeKey &key)
     return std::min(perLine * lines + 64, key.text.size());
 }
 
-// The left and right end of the ink of one cluster, in the coordinates of its line.
-void uniteInk(const QTextLine &line, int position, qreal &left, qreal &right)
+// Unites the columns that the ink of one cluster may touch with those from \a left to \a right. A painter
+// without subpixel positions puts a glyph to the nearest whole pixel.
+void uniteInk(const QTextLine &line, int from, int to, int &left, int &right)
 {
-    const QList<QGlyphRun> runs = line.glyphRuns(position, 1);
+    const QList<QGlyphRun> runs = line.glyphRuns(from, to - from);
     for (const QGlyphRun &run : runs) {
         const QRawFont font = run.rawFont();
         const QList<quint32> glyphs = run.glyphIndexes();
         const QList<QPointF> positions = run.positions();
         for (qsizetype i = 0; i < glyphs.size(); ++i) {
-            const QRectF ink = font.boundingRect(glyphs[i]).translated(positions[i]);
-            left = std::min(left, ink.left());
-            right = std::max(right, ink.right());
+            const QRectF ink = font.boundingRect(glyphs[i]);
+            const qreal x = positions[i].x();
+            left = std::min(left, int(std::floor(std::min(x, std::round(x)) + ink.left())));
+            right = std::max(right, int(std::ceil(std::max(x, std::round(x)) + ink.right())));
         }
     }
+}
+
+// The ink that stands out of a line's box is that of its first or its last visible character.
+void uniteInkOfEnds(const QTextLine &line, const QTextLayout &layout, int &left, int &right)
+{
+    const QString text = layout.text();
+    const int start = line.textStart();
+    int end = start + line.textLength();
+    while (end > start && text[end - 1].isSpace())
+        --end;
+    if (end == start)
+        return;
+    uniteInk(line, start, layout.nextCursorPosition(start), left, right);
+    uniteInk(line, layout.previousCursorPosition(end), end, left, right);
 }
 
 } // namespace
@@ -207,20 +223,16 @@ void ShapedText::elideLastLine()
 
 void ShapedText::measure()
 {
-    qreal left = 0;
-    qreal rightOverhang = 0;
-    for (const QTextLine &line : m_lines) {
-        const qreal width = line.naturalTextWidth();
-        m_width = std::max(m_width, int(std::ceil(width)));
-        if (line.textLength() == 0)
-            continue;
-        qreal right = width;
-        uniteInk(line, line.textStart(), left, right);
-        uniteInk(line, line.textStart() + line.textLength() - 1, left, right);
-        rightOverhang = std::max(rightOverhang, right - width);
+    for (size_t i = 0; i < m_lines.size(); ++i) {
+        const bool elided = m_elided && i + 1 == m_lines.size();
+        const int width = int(std::ceil(m_lines[i].naturalTextWidth()));
+        int left = 0;
+        int right = width;
+        uniteInkOfEnds(m_lines[i], elided ? *m_elided : *m_body, left, right);
+        m_width = std::max(m_width, width);
+        m_leftOverhang = std::max(m_leftOverhang, -left);
+        m_rightOverhang = std::max(m_rightOverhang, right - width);
     }
-    m_leftOverhang = int(std::ceil(-left));
-    m_rightOverhang = int(std::ceil(rightOverhang));
 }
 
 } // namespace stbcore
