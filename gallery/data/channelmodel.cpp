@@ -30,7 +30,7 @@ int ChannelModel::rowCount(const QModelIndex &parent) const
 
 QVariant ChannelModel::data(const QModelIndex &index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+    if (!index.isValid() || index.row() >= count())
         return {};
     const Channel &channel = m_guide.channel(index.row());
     switch (role) {

@@ -110,7 +110,7 @@ int ProgrammeModel::rowCount(const QModelIndex &parent) const
 
 QVariant ProgrammeModel::data(const QModelIndex &index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+    if (!index.isValid() || index.row() >= count())
         return {};
     const int row = index.row();
     const State &state = m_states[row];

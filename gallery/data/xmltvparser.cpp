@@ -64,11 +64,12 @@ void XmltvParser::Choice::offer(const QString &candidate, int candidateRank)
 }
 
 // A name that only the format's document type could explain, which is never fetched, stays as it is written.
+// The reader looks for entities in the replacement again, so that a bare ampersand would never end.
 QString XmltvParser::Entities::resolveUndeclaredEntity(const QString &name)
 {
     if (name == QLatin1String("nbsp"))
         return QString(QChar::Nbsp);
-    return u'&' + name + u';';
+    return QLatin1String("&amp;") + name + u';';
 }
 
 XmltvParser::XmltvParser(GuideInput *input, const QString &language, const QString &folder,

@@ -7,6 +7,7 @@
 
 #include <QtCore/qxmlstream.h>
 
+#include <algorithm>
 #include <array>
 
 namespace gallery {
@@ -32,9 +33,9 @@ public:
     bool foundGuide() const { return m_foundGuide; }
     /*! What stopped the reading, without the place; empty when the end was reached. */
     QString error() const { return m_error; }
-    /*! The place where the reading stopped, from 1. */
+    /*! The place of the last character that was read, from 1. */
     qint64 line() const { return m_xml.lineNumber(); }
-    qint64 column() const { return m_xml.columnNumber() + 1; }
+    qint64 column() const { return std::max<qint64>(m_xml.columnNumber(), 1); }
 
 private:
     /*! The best of several texts for one language. */

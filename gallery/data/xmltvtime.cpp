@@ -76,12 +76,11 @@ std::optional<int> numericOffset(QStringView text)
     text = text.mid(1);
     const QStringView hours = text.left(2);
     QStringView minutes = text.mid(2);
-    if (minutes.startsWith(u':'))
+    if (minutes.isEmpty())
+        minutes = u"00";
+    else if (minutes.startsWith(u':'))
         minutes = minutes.mid(1);
-    else if (!minutes.isEmpty() && minutes.size() != 2)
-        return std::nullopt;
-    if (leadingDigits(hours) != 2 || leadingDigits(minutes) != minutes.size() || minutes.size() % 2 != 0
-        || minutes.size() > 2)
+    if (leadingDigits(hours) != 2 || leadingDigits(minutes) != 2 || minutes.size() != 2)
         return std::nullopt;
     const int h = field(hours, 0, 2, 0);
     const int m = field(minutes, 0, 2, 0);

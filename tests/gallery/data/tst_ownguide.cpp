@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#include "gallery/data/ownguide.h"
+#include "guidetext.h"
+#include "testkit/testcase.h"
+
+#include <QtCore/qset.h>
+
+using namespace gallery;
+using guidetext::at;
+
+class TestOwnGuide : public stbtest::TestCase
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void everyMinuteOfThreeDaysHasItsProgramme_data();
+    void everyMinuteOfThreeDaysHasItsProgramme();
+    void itHasEightChannelsWithNumbersAndNames();
+    void everyProgrammeHasATitle();
+    void titlesAreInTheLanguageAskedFor_data();
+    void titlesAreInTheLanguageAskedFor();
+    void everyTitleIsTranslated();
+    void theSameTimeGivesTheSameGuide();
+    void cleanup();
+};
+
+namespace {
+
+QDateTime local(const char *iso)
+{
+    return QDateTime::fromString(QLatin1String(iso), Qt::ISODate);
+}
+
+void setZone(const char *zone)
+{
+    qputenv("TZ", zone);
+    tzset();
+}
+
+QSet<QString> titlesIn(const char *language)
+{
+    const Guide guide = ownGuide(local("2026-05-13T20:05:00"), QLatin1String(language));
+    QSet<QString> titles;
+    for (int channel = 0; channel < guide.channelCount(); ++channel) {
+        for (int i = 0; i < guide.programmeCount(channel); ++i)
+            titles.insert(guide.programme(channel, i).title);
+    }
+    return titles;
+}
+
+} // namespace
+
+void TestOwnGuide::cleanup()
+{
+    setZone("UTC");
+}
+
+void TestOwnGuide::everyMinuteOfThreeDaysHasItsProgramme_data()
+{
+    QTest::addColumn<QByteArray>("zone");
+    QTest::addColumn<QString>("now");
+    QTest::addColumn<qint64>("start");
+    QTest::addColumn<qint64>("stop");
+    const auto row = [](const char *title, const char *zone, const char *now, const char *start,
+                        const char *stop) {
+        QTest::newRow(title) << QByteArray(zone) << QString::fromLatin1(now) << at(start) << at(stop);
+    };
+    const char *london = "GMT0BST,M3.5.0/1,M10.5.0";
+    row("UTC", "UTC", "2026-05-13T20:05:00", "2026-05-12T00:00:00Z", "2026-05-15T00:00:00Z");
+    row("just after midnight", "UTC", "2026-05-13T00:00:00", "2026-05-12T00:00:00Z", "2026-05-15T00:00:00Z");
+    row("east", "EST-7:30", "2026-05-13T23:59:59", "2026-05-11T16:30:00Z", "2026-05-14T16:30:00Z");
+    row("clocks go forward", london, "2026-03-29T12:00:00", "2026-03-28T00:00:00Z", "2026-03-30T23:00:00Z");
+    row("clocks go back", london, "2026-10-25T12:00:00", "2026-10-23T23:00:00Z", "2026-10-27T00:00:00Z");
+}
+
+void TestOwnGuide::everyMinuteOfThreeDaysHasItsProgramme()
+{
+    QFETCH(QByteArray, zone);
+    QFETCH(QString, now);
+    QFETCH(qint64, start);
+    QFETCH(qint64, stop);
+    setZone(zone);
+    const Guide guide = ownGuide(local(qPrintable(now)), QStringLiteral("en"));
+    for (int channel = 0; channel < guide.channelCount(); ++channel) {
+        const int last = guide.programmeCount(channel) - 1;
+        QVERIFY(guide.timeSpan(channel, 0).start <= start);
+        QVERIFY(guide.timeSpan(channel, 0).stop > start);
+        QVERIFY(guide.timeSpan(channel, last).stop >= stop);
+        QVERIFY(guide.timeSpan(channel, last).start < stop);
+        for (int i = 0; i < last; ++i)
+            QCOMPARE(guide.timeSpan(channel, i).stop, guide.timeSpan(channel, i + 1).start);
+    }
+}
+
+void TestOwnGuide::itHasEightChannelsWithNumbersAndNames()
+{
+    const Guide guide = ownGuide(local("2026-05-13T20:05:00"), QStringLiteral("en"));
+    QCOMPARE(guide.channelCount(), 8);
+    QCOMPARE(guide.channel(0).name, QStringLiteral("News"));
+    for (int channel = 0; channel < 8; ++channel)
+        QCOMPARE(guide.channel(channel).number, QString::number(channel + 1));
+}
+
+void TestOwnGuide::everyProgrammeHasATitle()
+{
+    for (const char *language : { "en", "de", "ru", "ar" })
+        QVERIFY(!titlesIn(language).contains(QString()));
+}
+
+void TestOwnGuide::titlesAreInTheLanguageAskedFor_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("channel");
+    QTest::addColumn<QString>("title");
+    QTest::newRow("English") << "en"
+                             << "Cinema"
+                             << "The Lighthouse Keeper's Daughter";
+    QTest::newRow("German") << "de"
+                            << "Kino" << QString::fromUtf8("Die Tochter des Leuchtturmwärters");
+    QTest::newRow("a region") << "de_AT"
+                              << "Kino" << QString::fromUtf8("Die Tochter des Leuchtturmwärters");
+    QTest::newRow("Russian") << "ru" << QString::fromUtf8("Кино")
+                             << QString::fromUtf8("Дочь смотрителя маяка");
+    QTest::newRow("Arabic") << "ar" << QString::fromUtf8("سينما") << QString::fromUtf8("ابنة حارس المنارة");
+    QTest::newRow("another") << "fi"
+                             << "Cinema"
+                             << "The Lighthouse Keeper's Daughter";
+    QTest::newRow("none") << ""
+                          << "Cinema"
+                          << "The Lighthouse Keeper's Daughter";
+}
+
+void TestOwnGuide::titlesAreInTheLanguageAskedFor()
+{
+    QFETCH(QString, language);
+    const Guide guide = ownGuide(local("2026-05-13T20:05:00"), language);
+    const int channel = guide.channelIndex(QStringLiteral("cinema"));
+    QTEST(guide.channel(channel).name, "channel");
+    const int row = guide.programmeAt(channel, at("2026-05-13T20:05:00Z"));
+    QTEST(guide.programme(channel, row).title, "title");
+}
+
+void TestOwnGuide::everyTitleIsTranslated()
+{
+    const QSet<QString> english = titlesIn("en");
+    QCOMPARE(titlesIn("ru").intersect(english), QSet<QString>());
+    QCOMPARE(titlesIn("ar").intersect(english), QSet<QString>());
+    // The same word in both languages.
+    QCOMPARE(titlesIn("de").intersect(english), QSet<QString>({ QStringLiteral("Tennis") }));
+}
+
+void TestOwnGuide::theSameTimeGivesTheSameGuide()
+{
+    const Guide a = ownGuide(local("2026-05-13T20:05:00"), QStringLiteral("en"));
+    const Guide b = ownGuide(local("2026-05-13T20:05:00"), QStringLiteral("en"));
+    QCOMPARE(a.programmeCount(), b.programmeCount());
+    for (int i = 0; i < a.programmeCount(3); ++i)
+        QCOMPARE(a.programme(3, i).subTitle, b.programme(3, i).subTitle);
+}
+
+STB_TEST_MAIN(TestOwnGuide)
+#include "tst_ownguide.moc"
