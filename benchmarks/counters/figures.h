@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#ifndef STBBENCH_FIGURES_H
+#define STBBENCH_FIGURES_H
+
+#include <QtCore/qlist.h>
+#include <QtCore/qstring.h>
+
+namespace stbbench {
+
+class Form;
+
+/*! One counted number, the same on each run of one build. */
+struct Figure
+{
+    QString name;
+    qint64 value = 0;
+};
+
+/*!
+    Counts what one row of \a form costs: objects, items and nodes, texts laid out, pixels painted per change. Ends
+    the program when the form's frames do not add up to the picture that they show when painted in whole.
+*/
+QList<Figure> countRow(Form &form);
+
+} // namespace stbbench
+
+#endif // STBBENCH_FIGURES_H
