@@ -47,7 +47,7 @@ QStringList savings(const QList<Figure> &figures, const QJsonObject &budgets)
     QStringList lines;
     for (const Figure &figure : figures) {
         const QJsonValue budget = budgets.value(figure.name);
-        if (budget.isDouble() && figure.value < budget.toInteger()) {
+        if (budget.isDouble() && figure.value >= 0 && figure.value < budget.toInteger()) {
             lines.append(QStringLiteral("\"%1\" is %2, its budget of %3 can be lowered")
                                  .arg(figure.name).arg(figure.value).arg(budget.toInteger()));
         }

@@ -83,14 +83,13 @@ QList<Figure> countRow(Form &form)
     CountedRow row(form);
     QList<Figure> figures;
     const auto add = [&figures](const char *name, qint64 value) {
-        if (value != stbtest::notCounted)
-            figures.append({ QLatin1String(name), value });
+        figures.append({ QLatin1String(name), value });
     };
     add("objects", stbtest::objectCount(row.row()));
     add("objects created", row.created());
     add("items", stbtest::itemCount(row.row()));
     add("nodes", stbtest::itemNodeCount(row.row()));
-    add("texts laid out", row.texts());
+    add("platform texts, first frame", row.texts());
     add("pixels, first frame", row.firstFrame());
     add("pixels, nothing changed", row.paintedByUpdate());
     add("pixels, same title again", row.painted("itemTitle", programme(1).title));
@@ -102,9 +101,24 @@ QList<Figure> countRow(Form &form)
     add("nodes, live", stbtest::itemNodeCount(row.row()));
     add("pixels, title changed while live", row.painted("itemTitle", programme(3).title));
     add("pixels, live switched off", row.painted("tvProgramIsLive", false));
-    add("texts laid out, title changed", row.textsFor("itemTitle", programme(4).title));
-    add("texts laid out, playable switched", row.textsFor("tvProgramPlayable", false));
+    add("platform texts, title changed", row.textsFor("itemTitle", programme(4).title));
+    add("platform texts, playable switched", row.textsFor("tvProgramPlayable", false));
     return figures;
+}
+
+QImage picture(Form &form)
+{
+    stbtest::Stage stage(QSize(640, 180), background);
+    Programme shown = programme(1);
+    const std::unique_ptr<QQuickItem> quiet = form.create(shown);
+    shown.live = true;
+    const std::unique_ptr<QQuickItem> live = form.create(shown);
+    for (QQuickItem *row : { live.get(), quiet.get() }) {
+        row->setParentItem(stage.contentItem());
+        row->setPosition(QPointF(16, row == live.get() ? 12 : 108));
+    }
+    stage.renderFrame();
+    return stage.picture();
 }
 
 } // namespace stbbench

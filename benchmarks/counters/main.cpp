@@ -2,6 +2,7 @@
 #include "budgets.h"
 #include "figures.h"
 #include "forms/forms.h"
+#include "testkit/pictures.h"
 #include "testkit/testcase.h"
 
 #include <QtCore/qcommandlineparser.h>
@@ -47,6 +48,10 @@ int run(const QCommandLineParser &parser)
     const QList<Figure> row = countRow(forms.row());
     const QList<Figure> composed = countRow(forms.composedRow());
     printTable(row, composed);
+    if (parser.isSet(QStringLiteral("pictures"))) {
+        for (Form *form : { &forms.row(), &forms.composedRow() })
+            std::printf("%s\n", qPrintable(stbtest::savePicture(picture(*form), form->name())));
+    }
     const QJsonObject all { { rowKey, toJson(row) }, { composedKey, toJson(composed) } };
     if (parser.isSet(QStringLiteral("json")) && !writeJson(parser.value(QStringLiteral("json")), all))
         return 2;
@@ -71,6 +76,7 @@ int main(int argc, char **argv)
             { QStringLiteral("json"), QStringLiteral("Write the figures to <file>."), QStringLiteral("file") },
             { QStringLiteral("budgets"), QStringLiteral("Fail when a figure is above its budget in <file>."),
               QStringLiteral("file") },
+            { QStringLiteral("pictures"), QStringLiteral("Save a picture of each form and print its path.") },
             { QStringLiteral("update"), QStringLiteral("Write the figures as budgets instead.") },
     });
     parser.process(*app);

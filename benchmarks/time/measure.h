@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#ifndef STBBENCH_MEASURE_H
+#define STBBENCH_MEASURE_H
+
+#include <QtCore/qlist.h>
+
+#include <functional>
+
+namespace stbbench {
+
+class Form;
+
+enum class Phase { Create, FirstFrame };
+
+/*! What is done around a measured phase: the clock of measureRows(), or the collection of callgrind. */
+struct Meter
+{
+    std::function<void(Phase)> begin;
+    std::function<void(Phase)> end;
+};
+
+/*!
+    Creates \a count rows of \a form one after the other on a stage, each with texts that no row had before (from
+    programme number \a first on), paints the first frame of each and takes it off again, unmeasured.
+*/
+void createRows(Form &form, int first, int count, const Meter &meter);
+
+/*! Microseconds of this thread's processor time for one row. */
+struct RowTime
+{
+    double create = 0;
+    double firstFrame = 0;
+
+    double total() const { return create + firstFrame; }
+};
+
+/*! The mean over \a count rows, as createRows() makes them. */
+RowTime timeRows(Form &form, int first, int count);
+
+/*! The middle one of \a values, which is not empty. */
+double median(QList<double> values);
+
+} // namespace stbbench
+
+#endif // STBBENCH_MEASURE_H
