@@ -6,6 +6,7 @@
 
 #include <QtGui/qfontmetrics.h>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace design_system;
@@ -25,7 +26,8 @@ double luminance(const QColor &c)
 // As the web's accessibility guidelines define it, for opaque colours.
 double contrast(const QColor &a, const QColor &b)
 {
-    const auto [dark, light] = std::minmax(luminance(a), luminance(b));
+    const double dark = std::min(luminance(a), luminance(b));
+    const double light = std::max(luminance(a), luminance(b));
     return (light + 0.05) / (dark + 0.05);
 }
 
