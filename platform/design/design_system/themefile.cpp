@@ -13,7 +13,7 @@ namespace design_system {
 namespace {
 
 constexpr int printedWarnings = 20;
-constexpr qint64 largestFile = 4 * 1024 * 1024;
+constexpr qint64 largestFile = qint64(4) * 1024 * 1024;
 constexpr int longestQuote = 60;
 
 // A key or a text of the file, fit for one line of a log.
