@@ -32,7 +32,9 @@ QStringList overruns(const QList<Figure> &figures, const QJsonObject &budgets)
             lines.append(QStringLiteral("\"%1\" is %2 and has no budget").arg(figure.name).arg(figure.value));
         } else if (figure.value > budget.toInteger()) {
             lines.append(QStringLiteral("\"%1\" is %2, its budget is %3")
-                                 .arg(figure.name).arg(figure.value).arg(budget.toInteger()));
+                                 .arg(figure.name)
+                                 .arg(figure.value)
+                                 .arg(budget.toInteger()));
         }
     }
     for (const QString &name : budgets.keys()) {
@@ -49,7 +51,9 @@ QStringList savings(const QList<Figure> &figures, const QJsonObject &budgets)
         const QJsonValue budget = budgets.value(figure.name);
         if (budget.isDouble() && figure.value >= 0 && figure.value < budget.toInteger()) {
             lines.append(QStringLiteral("\"%1\" is %2, its budget of %3 can be lowered")
-                                 .arg(figure.name).arg(figure.value).arg(budget.toInteger()));
+                                 .arg(figure.name)
+                                 .arg(figure.value)
+                                 .arg(budget.toInteger()));
         }
     }
     return lines;

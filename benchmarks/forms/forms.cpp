@@ -53,7 +53,8 @@ QByteArray fileContent(const QString &name)
 Programme programme(int index)
 {
     Programme programme;
-    programme.startTime = QStringLiteral("%1:%2").arg(index / 60 % 24, 2, 10, QLatin1Char('0'))
+    programme.startTime = QStringLiteral("%1:%2")
+                                  .arg(index / 60 % 24, 2, 10, QLatin1Char('0'))
                                   .arg(index % 60, 2, 10, QLatin1Char('0'));
     programme.title = QStringLiteral("Evening story number %1 of the north").arg(index);
     programme.subtitle = QStringLiteral("Part %1: what the harbour master kept to himself").arg(index);

@@ -7,7 +7,7 @@
 #include <QtCore/qtemporarydir.h>
 
 #ifdef STBBENCH_CALLGRIND
-#  include <valgrind/callgrind.h>
+#include <valgrind/callgrind.h>
 #endif
 
 namespace stbbench {
@@ -61,10 +61,10 @@ std::optional<double> instructionsPerRow(const QString &form, Phase phase, int c
     valgrind.setProcessChannelMode(QProcess::MergedChannels);
     valgrind.start(QStringLiteral("valgrind"),
                    { QStringLiteral("--tool=callgrind"), QStringLiteral("--collect-atstart=no"),
-                     QStringLiteral("--callgrind-out-file=%1").arg(file), QCoreApplication::applicationFilePath(),
-                     QStringLiteral("--collect"), form,
-                     QStringLiteral("--phase"), QString::number(int(phase)),
-                     QStringLiteral("--rows"), QString::number(count) });
+                     QStringLiteral("--callgrind-out-file=%1").arg(file),
+                     QCoreApplication::applicationFilePath(), QStringLiteral("--collect"), form,
+                     QStringLiteral("--phase"), QString::number(int(phase)), QStringLiteral("--rows"),
+                     QString::number(count) });
     constexpr int patience = 600000; // milliseconds; callgrind needs seconds
     if (!valgrind.waitForFinished(patience) || valgrind.exitCode() != 0) {
         *error = valgrind.errorString() + QLatin1Char('\n') + QString::fromLocal8Bit(valgrind.readAll());

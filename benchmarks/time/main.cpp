@@ -76,7 +76,8 @@ int printInstructions(int rows)
         double counts[2] = {};
         for (int form = 0; form < 2; ++form) {
             QString error;
-            const auto count = instructionsPerRow(form == 0 ? QStringLiteral("row") : QStringLiteral("composed"),
+            const auto count = instructionsPerRow(form == 0 ? QStringLiteral("row")
+                                                            : QStringLiteral("composed"),
                                                   phase, rows, &error);
             if (!count) {
                 std::fprintf(stderr, "%s\n", qPrintable(error));
@@ -85,8 +86,8 @@ int printInstructions(int rows)
             counts[form] = *count;
             sums[form] += *count;
         }
-        std::printf("%-14s %12.0f %14.0f %8.2f\n", phase == Phase::Create ? "create" : "first frame", counts[0],
-                    counts[1], counts[0] / counts[1]);
+        std::printf("%-14s %12.0f %14.0f %8.2f\n", phase == Phase::Create ? "create" : "first frame",
+                    counts[0], counts[1], counts[0] / counts[1]);
     }
     std::printf("%-14s %12.0f %14.0f %8.2f\n", "both", sums[0], sums[1], sums[0] / sums[1]);
     return 0;

@@ -9,7 +9,7 @@
 #include <atomic>
 
 #ifdef STBTEST_COUNTS_TEXTS
-#  include <stbcore/textcounters.h>
+#include <stbcore/textcounters.h>
 #endif
 
 namespace stbtest {

@@ -14,12 +14,18 @@ namespace {
 QString basicType(const QSGNode *node)
 {
     switch (node->type()) {
-    case QSGNode::GeometryNodeType: return QStringLiteral("Geometry");
-    case QSGNode::TransformNodeType: return QStringLiteral("Transform");
-    case QSGNode::ClipNodeType: return QStringLiteral("Clip");
-    case QSGNode::OpacityNodeType: return QStringLiteral("Opacity");
-    case QSGNode::RootNodeType: return QStringLiteral("Root");
-    default: return QStringLiteral("Node");
+    case QSGNode::GeometryNodeType:
+        return QStringLiteral("Geometry");
+    case QSGNode::TransformNodeType:
+        return QStringLiteral("Transform");
+    case QSGNode::ClipNodeType:
+        return QStringLiteral("Clip");
+    case QSGNode::OpacityNodeType:
+        return QStringLiteral("Opacity");
+    case QSGNode::RootNodeType:
+        return QStringLiteral("Root");
+    default:
+        return QStringLiteral("Node");
     }
 }
 
@@ -101,7 +107,10 @@ QString describeNodes(QSGNode *node)
         text += QString(2 * info.depth, u' ') + info.type;
         if (!info.rect.isNull()) {
             text += QStringLiteral(" (%1,%2 %3x%4)")
-                            .arg(info.rect.x()).arg(info.rect.y()).arg(info.rect.width()).arg(info.rect.height());
+                            .arg(info.rect.x())
+                            .arg(info.rect.y())
+                            .arg(info.rect.width())
+                            .arg(info.rect.height());
         }
         if (info.color.isValid())
             text += u' ' + info.color.name(QColor::HexArgb);

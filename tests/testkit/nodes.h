@@ -20,12 +20,12 @@ namespace stbtest {
 struct NodeInfo
 {
     QSGNode *node = nullptr;
-    int depth = 0;     // 0 for the node asked about
-    QString type;      // "Rectangle", "Image", "NinePatch", "InternalRectangle", "InternalImage", "Painter",
-                       // "Glyphs", "Opacity", "Clip", "Transform", "Root", "Geometry" or "Node"
-    QRectF rect;       // of rectangles, images and clips
-    QColor color;      // of rectangles; else invalid
-    QPixmap pixmap;    // of images under the software adaptation; else null
+    int depth = 0; // 0 for the node asked about
+    QString type; // "Rectangle", "Image", "NinePatch", "InternalRectangle", "InternalImage", "Painter",
+            // "Glyphs", "Opacity", "Clip", "Transform", "Root", "Geometry" or "Node"
+    QRectF rect; // of rectangles, images and clips
+    QColor color; // of rectangles; else invalid
+    QPixmap pixmap; // of images under the software adaptation; else null
     double opacity = 1; // of opacity nodes
 };
 

@@ -30,7 +30,12 @@ QString PictureDifference::text() const
     if (pixels == 0)
         return QString();
     return QStringLiteral("%1 pixels differ within (%2,%3 %4x%5), by up to %6 of 255")
-            .arg(pixels).arg(bounds.x()).arg(bounds.y()).arg(bounds.width()).arg(bounds.height()).arg(largest);
+            .arg(pixels)
+            .arg(bounds.x())
+            .arg(bounds.y())
+            .arg(bounds.width())
+            .arg(bounds.height())
+            .arg(largest);
 }
 
 PictureDifference comparePictures(const QImage &actual, const QImage &expected, int tolerableChannel)

@@ -13,18 +13,18 @@ namespace stbtest {
 /*! How far two pictures may be apart and still count as the same. Without a reason nothing is tolerated. */
 struct Tolerance
 {
-    int channel = 0;       // the largest difference of one colour channel, 0 to 255, that is not counted
-    qint64 pixels = 0;     // how many pixels may differ by more than that
+    int channel = 0; // the largest difference of one colour channel, 0 to 255, that is not counted
+    qint64 pixels = 0; // how many pixels may differ by more than that
     const char *reason = nullptr; // required as soon as one of the two is above 0
 };
 
 struct PictureDifference
 {
     bool sizesDiffer = false;
-    qint64 pixels = 0;    // pixels that differ by more than the tolerated channel difference
-    int largest = 0;      // the largest channel difference anywhere
-    QRect bounds;         // where the counted pixels are
-    QImage picture;       // what differs in red over a pale copy of the expected picture; null when equal
+    qint64 pixels = 0; // pixels that differ by more than the tolerated channel difference
+    int largest = 0; // the largest channel difference anywhere
+    QRect bounds; // where the counted pixels are
+    QImage picture; // what differs in red over a pale copy of the expected picture; null when equal
 
     /*! One line for a report, empty when nothing is to be said. */
     QString text() const;

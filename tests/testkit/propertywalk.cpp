@@ -38,7 +38,8 @@ public:
     Shrinker(const WalkSetup &setup, WalkFailure &failure)
         : m_setup(setup)
         , m_failure(failure)
-    {}
+    {
+    }
 
     Steps shrink(Steps steps)
     {
@@ -131,8 +132,8 @@ bool PropertyWalk::Private::isDeclared(const QByteArray &name) const
 {
     const auto hasName = [&name](const auto &entry) { return entry.name == name; };
     return std::any_of(setup.properties.cbegin(), setup.properties.cend(), hasName)
-            || std::any_of(setup.constants.cbegin(), setup.constants.cend(), hasName)
-            || std::any_of(exclusions.cbegin(), exclusions.cend(), hasName);
+           || std::any_of(setup.constants.cbegin(), setup.constants.cend(), hasName)
+           || std::any_of(exclusions.cbegin(), exclusions.cend(), hasName);
 }
 
 QString PropertyWalk::Private::undeclaredProperty(const QMetaObject *metaObject) const
@@ -204,9 +205,12 @@ QString PropertyWalk::Private::report(WalkFailure failure, const Steps &failing)
     }
     if (failure.actual.isNull())
         return text;
-    const QString name = QStringLiteral("walk-%1-seed%2-").arg(QLatin1String(QTest::currentTestFunction())).arg(seed);
-    text += QStringLiteral("\n  actual:     %1").arg(savePicture(failure.actual, name + QStringLiteral("actual")));
-    text += QStringLiteral("\n  expected:   %1").arg(savePicture(failure.expected, name + QStringLiteral("expected")));
+    const QString name =
+            QStringLiteral("walk-%1-seed%2-").arg(QLatin1String(QTest::currentTestFunction())).arg(seed);
+    text += QStringLiteral("\n  actual:     %1")
+                    .arg(savePicture(failure.actual, name + QStringLiteral("actual")));
+    text += QStringLiteral("\n  expected:   %1")
+                    .arg(savePicture(failure.expected, name + QStringLiteral("expected")));
     const PictureDifference difference = comparePictures(failure.actual, failure.expected);
     if (!difference.picture.isNull()) {
         text += QStringLiteral("\n  difference: %1")

@@ -24,7 +24,7 @@ public:
     std::unique_ptr<QObject> createObject(const QString &text);
 
     /*! The same for an item of the class \a Item, made a child item of \a parent. */
-    template<typename Item = QQuickItem>
+    template <typename Item = QQuickItem>
     std::unique_ptr<Item> createItem(const QString &text, QQuickItem *parent = nullptr)
     {
         std::unique_ptr<QObject> object = createObject(text);

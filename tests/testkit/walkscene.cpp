@@ -123,7 +123,9 @@ std::optional<WalkFailure> WalkScene::make(const WalkStep &step)
         }
         if (!writeProperty(m_item.get(), change)) {
             return WalkFailure { WalkFailure::Kind::Setting,
-                                 QStringLiteral("cannot be set: %1").arg(walkChangeText(change)), {}, {} };
+                                 QStringLiteral("cannot be set: %1").arg(walkChangeText(change)),
+                                 {},
+                                 {} };
         }
         m_values.insert(change.name, change.value);
     }
@@ -169,10 +171,11 @@ std::optional<WalkFailure> WalkScene::checkOtherWindows()
             continue;
         const PictureDifference difference = comparePictures(stage->picture(), m_blank);
         if (difference.pixels > 0) {
-            return WalkFailure { WalkFailure::Kind::OtherWindow,
-                                 QStringLiteral("a window without the item still shows it: %1")
-                                         .arg(difference.text()),
-                                 stage->picture(), m_blank };
+            return WalkFailure {
+                WalkFailure::Kind::OtherWindow,
+                QStringLiteral("a window without the item still shows it: %1").arg(difference.text()),
+                stage->picture(), m_blank
+            };
         }
     }
     return std::nullopt;
@@ -181,9 +184,11 @@ std::optional<WalkFailure> WalkScene::checkOtherWindows()
 std::optional<WalkFailure> WalkScene::compareWithFresh(Order order)
 {
     const Fresh fresh(m_setup, m_values, order);
-    const QString item = order == Order::WindowFirst
-            ? QStringLiteral("a fresh item")
-            : QStringLiteral("a fresh item that got its values in the opposite order, before its window");
+    const QString item =
+            order == Order::WindowFirst
+                    ? QStringLiteral("a fresh item")
+                    : QStringLiteral(
+                            "a fresh item that got its values in the opposite order, before its window");
     Stage *stage = currentStage();
     const QImage actual = stage->picture();
     const QImage expected = fresh.stage.picture();
@@ -194,9 +199,9 @@ std::optional<WalkFailure> WalkScene::compareWithFresh(Order order)
         return WalkFailure { WalkFailure::Kind::Picture,
                              QStringLiteral("the picture is not that of %1: %2; %3")
                                      .arg(item, difference.text(),
-                                          nodesAreRight
-                                                  ? QStringLiteral("the nodes are right but too little was painted")
-                                                  : QStringLiteral("its nodes differ as well")),
+                                          nodesAreRight ? QStringLiteral(
+                                                  "the nodes are right but too little was painted")
+                                                        : QStringLiteral("its nodes differ as well")),
                              actual, expected };
     }
     for (const QByteArray &name : m_setup.compared) {
@@ -222,9 +227,13 @@ std::optional<WalkFailure> WalkScene::checkIdle()
         return std::nullopt;
     const QRect bounds = region.boundingRect();
     return WalkFailure { WalkFailure::Kind::IdlePaint,
-                         QStringLiteral("an update that changed nothing painted %1 pixels within (%2,%3 %4x%5)")
-                                 .arg(pixelCount(region)).arg(bounds.x()).arg(bounds.y())
-                                 .arg(bounds.width()).arg(bounds.height()),
+                         QStringLiteral(
+                                 "an update that changed nothing painted %1 pixels within (%2,%3 %4x%5)")
+                                 .arg(pixelCount(region))
+                                 .arg(bounds.x())
+                                 .arg(bounds.y())
+                                 .arg(bounds.width())
+                                 .arg(bounds.height()),
                          currentStage()->picture(), before };
 }
 

@@ -20,11 +20,11 @@ class ToyItem : public QQuickItem
 public:
     enum Mistake {
         NoMistake,
-        NoUpdateOnColor,     // the colour is stored, nobody is told
-        StalePicture,        // the second picture colour keeps the first picture
-        StaleAfterWindow,    // a new window's nodes miss the picture
-        WrongPictureOrder,   // the picture's place depends on what was set first
-        AlwaysDirty,         // every paint update paints the whole item
+        NoUpdateOnColor, // the colour is stored, nobody is told
+        StalePicture, // the second picture colour keeps the first picture
+        StaleAfterWindow, // a new window's nodes miss the picture
+        WrongPictureOrder, // the picture's place depends on what was set first
+        AlwaysDirty, // every paint update paints the whole item
     };
 
     explicit ToyItem(Mistake mistake = NoMistake, QQuickItem *parent = nullptr);

@@ -103,7 +103,8 @@ void tst_Kit::nothingHasNoNodes()
 void tst_Kit::equalPicturesDoNotDiffer()
 {
     const QImage a = filled(QSize(7, 5), Qt::red);
-    const stbtest::PictureDifference same = stbtest::comparePictures(a, a.convertToFormat(QImage::Format_RGB32));
+    const stbtest::PictureDifference same = stbtest::comparePictures(a,
+                                                                     a.convertToFormat(QImage::Format_RGB32));
     QCOMPARE(same.pixels, 0);
     QCOMPARE(same.text(), QString());
     QVERIFY(same.picture.isNull());
@@ -135,7 +136,8 @@ void tst_Kit::aTolerableDifferenceIsNotCounted()
 
 void tst_Kit::picturesOfDifferentSizesDiffer()
 {
-    const auto difference = stbtest::comparePictures(filled(QSize(7, 5), Qt::red), filled(QSize(5, 7), Qt::red));
+    const auto difference = stbtest::comparePictures(filled(QSize(7, 5), Qt::red),
+                                                     filled(QSize(5, 7), Qt::red));
     QVERIFY(difference.sizesDiffer);
     QCOMPARE(difference.text(), QStringLiteral("the sizes differ"));
 }
@@ -169,7 +171,8 @@ void tst_Kit::aDifferentReferenceIsReportedWithItsDifference()
     const QString report = stbtest::compareWithFile(picture, file);
     QVERIFY2(report.contains(QLatin1String("1 pixels differ within (6,4 1x1)")), qPrintable(report));
     QVERIFY2(report.contains(QLatin1String("other-difference.png")), qPrintable(report));
-    QCOMPARE(stbtest::compareWithFile(picture, file, { 0, 1, "one pixel is the point of this test" }), QString());
+    QCOMPARE(stbtest::compareWithFile(picture, file, { 0, 1, "one pixel is the point of this test" }),
+             QString());
 }
 
 void tst_Kit::aToleranceNeedsAReason()
@@ -317,8 +320,9 @@ void tst_Kit::itemsComeFromQmlText()
 {
     Stage stage(QSize(61, 43));
     stbtest::QmlScene scene;
-    const auto item = scene.createItem(QStringLiteral("import QtQuick\nRectangle { color: \"blue\"; width: 20; "
-                                                      "height: 11; Item {} }"),
+    const auto item = scene.createItem(QStringLiteral(
+                                               "import QtQuick\nRectangle { color: \"blue\"; width: 20; "
+                                               "height: 11; Item {} }"),
                                        stage.contentItem());
     QVERIFY(item);
     QCOMPARE(scene.errorString(), QString());

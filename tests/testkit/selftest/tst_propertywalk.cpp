@@ -13,7 +13,10 @@ class ColorStyle : public QObject
     Q_OBJECT
     Q_PROPERTY(QColor color MEMBER m_color)
 public:
-    explicit ColorStyle(const QColor &color) : m_color(color) {}
+    explicit ColorStyle(const QColor &color)
+        : m_color(color)
+    {
+    }
 
 private:
     QColor m_color;
@@ -230,7 +233,9 @@ void tst_PropertyWalk::settleIsCalledBeforeEachLook()
 void tst_PropertyWalk::anUndeclaredPropertyIsAnError()
 {
     PropertyWalk walk(toy());
-    walk.property("color", colors).property("pictureX", { 1 }).exclude("style", QStringLiteral("no style here"));
+    walk.property("color", colors)
+            .property("pictureX", { 1 })
+            .exclude("style", QStringLiteral("no style here"));
     QCOMPARE(walk.run(),
              QStringLiteral("the property pictureColor is neither walked nor set once nor excluded"));
 }
@@ -284,11 +289,13 @@ void tst_PropertyWalk::theCommandLineOptionsAreTaken_data()
     QTest::addColumn<int>("seed");
     QTest::addColumn<int>("steps");
     QTest::newRow("none") << QByteArrayList { "-v2" } << true << QByteArrayList { "-v2" } << -1 << -1;
-    QTest::newRow("seed") << QByteArrayList { "--seed", "77", "-v2" } << true << QByteArrayList { "-v2" } << 77 << -1;
+    QTest::newRow("seed") << QByteArrayList { "--seed", "77", "-v2" } << true << QByteArrayList { "-v2" }
+                          << 77 << -1;
     QTest::newRow("both") << QByteArrayList { "walk", "--steps", "13", "--seed", "0" } << true
                           << QByteArrayList { "walk" } << 0 << 13;
     QTest::newRow("no number") << QByteArrayList { "--seed" } << false << QByteArrayList() << -1 << -1;
-    QTest::newRow("not a number") << QByteArrayList { "--steps", "many" } << false << QByteArrayList() << -1 << -1;
+    QTest::newRow("not a number") << QByteArrayList { "--steps", "many" } << false << QByteArrayList() << -1
+                                  << -1;
 }
 
 void tst_PropertyWalk::theCommandLineOptionsAreTaken()
