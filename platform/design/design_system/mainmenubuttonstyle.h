@@ -15,16 +15,15 @@ namespace design_system {
 class STBDESIGN_EXPORT MainMenuButtonQmlStyle : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(int backgroundCheckedHeight MEMBER m_backgroundCheckedHeight
-                       NOTIFY backgroundCheckedHeightChanged)
-    Q_PROPERTY(int backgroundFocusedHeight MEMBER m_backgroundFocusedHeight
-                       NOTIFY backgroundFocusedHeightChanged)
-    Q_PROPERTY(QColor normalBackgroundColor MEMBER m_normalBackgroundColor
-                       NOTIFY normalBackgroundColorChanged)
-    Q_PROPERTY(QColor checkedBackgroundColor MEMBER m_checkedBackgroundColor
-                       NOTIFY checkedBackgroundColorChanged)
-    Q_PROPERTY(QColor focusedBackgroundColor MEMBER m_focusedBackgroundColor
-                       NOTIFY focusedBackgroundColorChanged)
+    Q_PROPERTY(int backgroundCheckedHeight MEMBER m_backgroundCheckedHeight NOTIFY
+                       backgroundCheckedHeightChanged)
+    Q_PROPERTY(int backgroundFocusedHeight MEMBER m_backgroundFocusedHeight NOTIFY
+                       backgroundFocusedHeightChanged)
+    Q_PROPERTY(QColor normalBackgroundColor MEMBER m_normalBackgroundColor NOTIFY normalBackgroundColorChanged)
+    Q_PROPERTY(QColor checkedBackgroundColor MEMBER m_checkedBackgroundColor NOTIFY
+                       checkedBackgroundColorChanged)
+    Q_PROPERTY(QColor focusedBackgroundColor MEMBER m_focusedBackgroundColor NOTIFY
+                       focusedBackgroundColorChanged)
     Q_PROPERTY(design_system::FontGroup *text READ text CONSTANT)
     Q_PROPERTY(QColor normalTextColor MEMBER m_normalTextColor NOTIFY normalTextColorChanged)
     Q_PROPERTY(QColor checkedTextColor MEMBER m_checkedTextColor NOTIFY checkedTextColorChanged)

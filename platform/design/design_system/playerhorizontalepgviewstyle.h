@@ -53,8 +53,7 @@ public:
 class STBDESIGN_EXPORT PlayerHorizontalEpgViewQmlStyle : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(design_system::PlayerHorizontalEpgViewStyle style READ style WRITE setStyle
-                       NOTIFY styleChanged)
+    Q_PROPERTY(design_system::PlayerHorizontalEpgViewStyle style READ style WRITE setStyle NOTIFY styleChanged)
     QML_ELEMENT
 public:
     explicit PlayerHorizontalEpgViewQmlStyle(QObject *parent = nullptr);

@@ -49,37 +49,37 @@ namespace design_system {
 class STBDESIGN_EXPORT QmlDesignSystem : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(design_system::ButtonQmlStyle *primaryButtonStyle READ primaryButtonStyle
-                       NOTIFY primaryButtonStyleChanged)
-    Q_PROPERTY(design_system::ButtonQmlStyle *standardButtonStyle READ standardButtonStyle
-                       NOTIFY standardButtonStyleChanged)
-    Q_PROPERTY(design_system::ButtonQmlStyle *playerButtonStyle READ playerButtonStyle
-                       NOTIFY playerButtonStyleChanged)
-    Q_PROPERTY(design_system::TileQmlStyle *expandableTileStyle READ expandableTileStyle
-                       NOTIFY expandableTileStyleChanged)
-    Q_PROPERTY(design_system::TileQmlStyle *contentTileStyle READ contentTileStyle
-                       NOTIFY contentTileStyleChanged)
+    Q_PROPERTY(design_system::ButtonQmlStyle *primaryButtonStyle READ primaryButtonStyle NOTIFY
+                       primaryButtonStyleChanged)
+    Q_PROPERTY(design_system::ButtonQmlStyle *standardButtonStyle READ standardButtonStyle NOTIFY
+                       standardButtonStyleChanged)
+    Q_PROPERTY(design_system::ButtonQmlStyle *playerButtonStyle READ playerButtonStyle NOTIFY
+                       playerButtonStyleChanged)
+    Q_PROPERTY(design_system::TileQmlStyle *expandableTileStyle READ expandableTileStyle NOTIFY
+                       expandableTileStyleChanged)
+    Q_PROPERTY(design_system::TileQmlStyle *contentTileStyle READ contentTileStyle NOTIFY
+                       contentTileStyleChanged)
     Q_PROPERTY(design_system::TileQmlStyle *vodTileStyle READ vodTileStyle NOTIFY vodTileStyleChanged)
     Q_PROPERTY(design_system::PlayerEpgDelegateQmlStyle *playerEpgDelegateStyle READ playerEpgDelegateStyle
                        NOTIFY playerEpgDelegateStyleChanged)
-    Q_PROPERTY(design_system::PlayerHorizontalEpgViewQmlStyle *playerHorizontalEpgViewStyle
-                       READ playerHorizontalEpgViewStyle NOTIFY playerHorizontalEpgViewStyleChanged)
-    Q_PROPERTY(design_system::PlayerEpgDateQmlStyle *playerEpgDateStyle READ playerEpgDateStyle
-                       NOTIFY playerEpgDateStyleChanged)
+    Q_PROPERTY(design_system::PlayerHorizontalEpgViewQmlStyle *playerHorizontalEpgViewStyle READ
+                       playerHorizontalEpgViewStyle NOTIFY playerHorizontalEpgViewStyleChanged)
+    Q_PROPERTY(design_system::PlayerEpgDateQmlStyle *playerEpgDateStyle READ playerEpgDateStyle NOTIFY
+                       playerEpgDateStyleChanged)
     Q_PROPERTY(design_system::PlayerEpisodesItemQmlStyle *playerEpisodesItemStyle READ playerEpisodesItemStyle
                        NOTIFY playerEpisodesItemStyleChanged)
-    Q_PROPERTY(design_system::PlayerTvChannelItemQmlStyle *playerTvChannelItemStyle
-                       READ playerTvChannelItemStyle NOTIFY playerTvChannelItemStyleChanged)
-    Q_PROPERTY(design_system::BusyIndicatorQmlStyle *busyIndicatorStyle READ busyIndicatorStyle
-                       NOTIFY busyIndicatorStyleChanged)
-    Q_PROPERTY(design_system::CheckBoxQmlStyle *standardCheckBoxStyle READ standardCheckBoxStyle
-                       NOTIFY standardCheckBoxStyleChanged)
+    Q_PROPERTY(design_system::PlayerTvChannelItemQmlStyle *playerTvChannelItemStyle READ
+                       playerTvChannelItemStyle NOTIFY playerTvChannelItemStyleChanged)
+    Q_PROPERTY(design_system::BusyIndicatorQmlStyle *busyIndicatorStyle READ busyIndicatorStyle NOTIFY
+                       busyIndicatorStyleChanged)
+    Q_PROPERTY(design_system::CheckBoxQmlStyle *standardCheckBoxStyle READ standardCheckBoxStyle NOTIFY
+                       standardCheckBoxStyleChanged)
     Q_PROPERTY(design_system::KeyboardQmlStyle *keyboardStyle READ keyboardStyle NOTIFY keyboardStyleChanged)
     Q_PROPERTY(design_system::LineEditQmlStyle *lineEditStyle READ lineEditStyle NOTIFY lineEditStyleChanged)
     Q_PROPERTY(design_system::MainMenuButtonQmlStyle *mainMenuButtonQmlStyle READ mainMenuButtonQmlStyle
                        NOTIFY mainMenuButtonQmlStyleChanged)
-    Q_PROPERTY(design_system::TabButtonQmlStyle *tabButtonStyle READ tabButtonStyle
-                       NOTIFY tabButtonStyleChanged)
+    Q_PROPERTY(
+            design_system::TabButtonQmlStyle *tabButtonStyle READ tabButtonStyle NOTIFY tabButtonStyleChanged)
     Q_PROPERTY(design_system::Colors *colors READ colors NOTIFY colorsChanged)
     Q_PROPERTY(design_system::Animation *animation READ animation NOTIFY animationChanged)
     Q_PROPERTY(design_system::Layouts *layouts READ layouts NOTIFY layoutsChanged)

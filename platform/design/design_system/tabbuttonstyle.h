@@ -16,12 +16,11 @@ namespace design_system {
 class STBDESIGN_EXPORT TabButtonQmlStyle : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(QColor backgroundNormalColor MEMBER m_backgroundNormalColor
-                       NOTIFY backgroundNormalColorChanged)
-    Q_PROPERTY(QColor backgroundFocusedColor MEMBER m_backgroundFocusedColor
-                       NOTIFY backgroundFocusedColorChanged)
-    Q_PROPERTY(QColor backgroundSelectedColor MEMBER m_backgroundSelectedColor
-                       NOTIFY backgroundSelectedColorChanged)
+    Q_PROPERTY(QColor backgroundNormalColor MEMBER m_backgroundNormalColor NOTIFY backgroundNormalColorChanged)
+    Q_PROPERTY(QColor backgroundFocusedColor MEMBER m_backgroundFocusedColor NOTIFY
+                       backgroundFocusedColorChanged)
+    Q_PROPERTY(QColor backgroundSelectedColor MEMBER m_backgroundSelectedColor NOTIFY
+                       backgroundSelectedColorChanged)
     Q_PROPERTY(QColor textNormalColor MEMBER m_textNormalColor NOTIFY textNormalColorChanged)
     Q_PROPERTY(QColor textFocusedColor MEMBER m_textFocusedColor NOTIFY textFocusedColorChanged)
     Q_PROPERTY(QColor textSelectedColor MEMBER m_textSelectedColor NOTIFY textSelectedColorChanged)

@@ -43,8 +43,7 @@ struct STBDESIGN_EXPORT TileStyle
     Q_PROPERTY(int borderWidth READ borderWidth WRITE setBorderWidth STORED false)
     Q_PROPERTY(int ratingBadgeLeftPadding READ ratingBadgeLeftPadding WRITE setRatingBadgeLeftPadding
                        STORED false)
-    Q_PROPERTY(int ratingBadgeTopPadding READ ratingBadgeTopPadding WRITE setRatingBadgeTopPadding
-                       STORED false)
+    Q_PROPERTY(int ratingBadgeTopPadding READ ratingBadgeTopPadding WRITE setRatingBadgeTopPadding STORED false)
     Q_PROPERTY(int ratingBadgeRightPadding READ ratingBadgeRightPadding WRITE setRatingBadgeRightPadding
                        STORED false)
     Q_PROPERTY(int ratingBadgeBottomPadding READ ratingBadgeBottomPadding WRITE setRatingBadgeBottomPadding
