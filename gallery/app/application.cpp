@@ -112,19 +112,26 @@ void Application::setUpConfiguration()
     if (!wantsPictures(m_options))
         return;
     // A picture shows where a movement ends, not some moment of it.
-    for (const QString &key : { u"focusingEnabled"_s, u"layoutScrollingEnabled"_s, u"viewportScrollingEnabled"_s,
-                                u"fadeEffectEnabled"_s, u"slidingEnabled"_s })
+    for (const QString &key : { u"focusingEnabled"_s, u"layoutScrollingEnabled"_s,
+                                u"viewportScrollingEnabled"_s, u"fadeEffectEnabled"_s, u"slidingEnabled"_s })
         m_configuration.setValue(u"Animations"_s, key, false);
 }
 
 bool Application::setUpLanguage()
 {
     const QString configured = m_configuration.value(u"UI"_s, u"language"_s, {}).toString();
-    m_language = bestLanguage(configured.isEmpty() ? QLocale::system().uiLanguages() : QStringList(configured));
-    if (installLanguage(m_language))
-        return true;
-    m_error = u"the texts of the language \"%1\" cannot be loaded"_s.arg(m_language);
-    return false;
+    m_language = bestLanguage(configured.isEmpty() ? QLocale::system().uiLanguages()
+                                                   : QStringList(configured));
+    if (!installLanguage(m_language)) {
+        m_error = u"the texts of the language \"%1\" cannot be loaded"_s.arg(m_language);
+        return false;
+    }
+    const auto mirror = [this] {
+        m_guide->setMirrored(QGuiApplication::layoutDirection() == Qt::RightToLeft);
+    };
+    connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this, mirror);
+    mirror();
+    return true;
 }
 
 bool Application::setUpView()
@@ -227,8 +234,9 @@ int runGallery(int &argc, char **argv)
     QCoreApplication::setApplicationVersion(QStringLiteral(STBUI_VERSION));
 
     Application gallery(commandLine.options);
-    QObject::connect(&gallery, &Application::finished, &app,
-                     [](ExitCode code) { QCoreApplication::exit(int(code)); }, Qt::QueuedConnection);
+    QObject::connect(
+            &gallery, &Application::finished, &app, [](ExitCode code) { QCoreApplication::exit(int(code)); },
+            Qt::QueuedConnection);
     if (!gallery.start()) {
         printError(gallery.error());
         return int(ExitCode::Failure);

@@ -33,7 +33,8 @@ constexpr OptionText screenshotsOption { "screenshots"_L1, "Write a PNG of each 
 constexpr OptionText themeOption { "theme"_L1, "Theme file to use."_L1, "file"_L1 };
 constexpr OptionText resolutionOption { "resolution"_L1, "Design size: hd, fullhd or sd."_L1, "name"_L1 };
 constexpr OptionText backendOption { "backend"_L1, "Qt Quick's renderer: software or rhi."_L1, "name"_L1 };
-constexpr OptionText languageOption { "language"_L1, "Language of the screens: en, ru, de or ar."_L1, "code"_L1 };
+constexpr OptionText languageOption { "language"_L1, "Language of the screens: en, ru, de or ar."_L1,
+                                      "code"_L1 };
 constexpr OptionText helpOption { "help,h"_L1, "Print this help."_L1, ""_L1 };
 constexpr OptionText versionOption { "version,v"_L1, "Print the version."_L1, ""_L1 };
 
@@ -140,8 +141,7 @@ public:
     {
         const RemoteKeys result = parseRemoteKeys(value(m_parser, option));
         if (!result.unknown.isEmpty()) {
-            fail(u"unknown key \"%1\"; known are %2"_s.arg(result.unknown,
-                                                           remoteKeyNames().join(", "_L1)));
+            fail(u"unknown key \"%1\"; known are %2"_s.arg(result.unknown, remoteKeyNames().join(", "_L1)));
         }
         return result.keys;
     }
@@ -196,7 +196,8 @@ QStringList screenNames()
 CommandLine parseCommandLine(const QStringList &arguments)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(u"Shows the controls of Stbui.UI.Qml.Controls.Basic as a TV application."_s);
+    parser.setApplicationDescription(
+            u"Shows the controls of Stbui.UI.Qml.Controls.Basic as a TV application."_s);
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     for (const OptionText &option :
          { guideOption, nowOption, screenOption, keysOption, screenshotsOption, themeOption, resolutionOption,

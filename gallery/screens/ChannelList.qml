@@ -4,10 +4,6 @@ import Gallery
 
 // The channels; the chosen one is marked and kept in sight. Keys never act here.
 ListView {
-    id: list
-
-    readonly property int rowHeight: Math.round(68 * Look.unit)
-
     interactive: false
     clip: true
     highlightFollowsCurrentItem: false
@@ -20,8 +16,8 @@ ListView {
         required property string number
         required property string nowTitle
 
-        width: list.width
-        height: list.rowHeight
+        width: ListView.view.width
+        height: Math.round(68 * Look.unit)
         Accessible.role: Accessible.ListItem
         Accessible.name: name
 

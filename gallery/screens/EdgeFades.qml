@@ -19,7 +19,8 @@ Item {
     }
 
     component Fade: Rectangle {
-        width: fades.width
+        anchors.left: parent.left
+        anchors.right: parent.right
         height: Look.huge
         gradient: Gradient {
             GradientStop {

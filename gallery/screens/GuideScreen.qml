@@ -11,12 +11,11 @@ FocusScope {
     width: Look.screenWidth
     height: Look.screenHeight
     focus: true
-    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.enabled: guide.mirrored
     LayoutMirroring.childrenInherit: true
     Keys.onPressed: event => event.accepted = guide.press(event.key)
 
     Binding {
-        screen.guide.mirrored: screen.LayoutMirroring.enabled
         screen.guide.rowsPerPage: programmes.visibleRows
     }
     Rectangle {
@@ -38,6 +37,7 @@ FocusScope {
     ChannelList {
         id: channels
 
+        objectName: "channels"
         anchors.top: header.bottom
         anchors.topMargin: Look.medium
         anchors.bottom: summary.bottom
@@ -50,12 +50,13 @@ FocusScope {
     ProgrammeList {
         id: programmes
 
+        objectName: "programmes"
         anchors.top: channels.top
         anchors.bottom: summary.top
         anchors.bottomMargin: Look.medium
         anchors.right: header.right
         width: implicitWidth
-        focus: true
+        focus: !screen.guide.detailsOpen
         model: screen.guide.programmes
         currentIndex: screen.guide.programmeRow
     }
@@ -140,17 +141,19 @@ FocusScope {
 
         Label {
             anchors.left: parent.left
-            anchors.right: hints.left
-            anchors.rightMargin: Look.large
+            anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             text: screen.guide.message
             font: Look.hint
+            // The place of an error stands behind the name of its file.
+            elide: Text.ElideMiddle
             color: Look.quietText
         }
         Row {
             id: hints
 
             anchors.right: parent.right
+            visible: screen.guide.message.length === 0
             spacing: Look.large
 
             KeyHint {
@@ -179,6 +182,7 @@ FocusScope {
     DetailsOverlay {
         anchors.fill: parent
         visible: screen.guide.detailsOpen
+        focus: visible
         guide: screen.guide
     }
 }

@@ -2,6 +2,7 @@
 pragma Singleton
 import QtQuick
 import Stbui.UI.Qml.Design
+import Gallery
 
 // What the screens take from the theme: measures that grow with the resolution, fonts by use, colours by role.
 QtObject {
@@ -30,6 +31,8 @@ QtObject {
     readonly property font caption: QmlDesignSystem.unscaledFont(FontHd.Caption1, FontSd.H6)
     readonly property font hint: QmlDesignSystem.unscaledFont(FontHd.Caption2, FontSd.H6)
 
+    // The linter of Qt 6.4 does not know the colours and rectangles of a module that is written in C++.
+    // qmllint disable type
     readonly property color backdrop: QmlDesignSystem.colors.oslo
     readonly property color surface: QmlDesignSystem.colors.bamako
     readonly property color raised: QmlDesignSystem.colors.bogota
@@ -39,5 +42,13 @@ QtObject {
     readonly property color accent: QmlDesignSystem.colors.berlin
     readonly property color focus: QmlDesignSystem.colors.quito
     readonly property color textOnFocus: QmlDesignSystem.colors.oslo
-    readonly property color alert: QmlDesignSystem.colors.dakar
+
+    readonly property rect rowTextArea: QmlDesignSystem.playerEpgDelegateStyle.style.previewRect
+    // qmllint enable type
+
+    // Of the guide's row that has the focus.
+    readonly property PlayerEpgDelegateQmlStyle focusedRow: FocusedRowStyle {
+        base: QmlDesignSystem.playerEpgDelegateStyle
+        color: Look.textOnFocus
+    }
 }

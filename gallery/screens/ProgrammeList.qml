@@ -6,14 +6,10 @@ import Gallery
 
 // The day's programmes of the chosen channel.
 ListView {
-    id: list
-
     // How many rows fit, on average.
     readonly property int visibleRows: count > 0 ? Math.floor(height * count / contentHeight) : 1
-    readonly property int rowPadding: Look.medium
-    readonly property rect textArea: QmlDesignSystem.playerEpgDelegateStyle.style.previewRect
 
-    implicitWidth: textArea.x + textArea.width + 2 * rowPadding
+    implicitWidth: Look.rowTextArea.x + Look.rowTextArea.width + 2 * Look.medium
     interactive: false
     clip: true
     // The chosen row stays in the middle as far as the ends of the list allow, at once: a view that follows a
@@ -23,6 +19,7 @@ ListView {
     delegate: Item {
         id: row
 
+        readonly property bool focused: ListView.isCurrentItem && ListView.view.focus
         required property string title
         required property string subtitle
         required property string startTimeText
@@ -30,7 +27,7 @@ ListView {
         required property bool isFuture
         required property bool isPlayable
 
-        width: list.width
+        width: ListView.view.width
         // A row measures one pixel less than what it paints.
         height: programme.height + 1 + 2 * Look.small
         Accessible.role: Accessible.ListItem
@@ -38,16 +35,16 @@ ListView {
 
         FocusPlate {
             anchors.fill: parent
-            visible: row.ListView.isCurrentItem
+            visible: row.focused
         }
         EpgViewDelegate {
             id: programme
 
             anchors.left: parent.left
             anchors.right: parent.right
-            anchors.margins: list.rowPadding
+            anchors.margins: Look.medium
             y: Look.small
-            style: row.ListView.isCurrentItem ? focusedStyle : QmlDesignSystem.playerEpgDelegateStyle
+            style: row.focused ? Look.focusedRow : QmlDesignSystem.playerEpgDelegateStyle
             itemTitle: row.title
             itemSubtitle: row.subtitle
             tvProgramStartTimeText: row.startTimeText
@@ -56,12 +53,5 @@ ListView {
             // There is no recording to go back to: what is over is dimmed, what is to come is not.
             tvProgramPlayable: row.isFuture
         }
-    }
-
-    FocusedRowStyle {
-        id: focusedStyle
-
-        base: QmlDesignSystem.playerEpgDelegateStyle
-        color: Look.textOnFocus
     }
 }

@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: MIT
+#include "galleryprocess.h"
+#include "testkit/testcase.h"
+
+#include "app/options.h"
+#include "app/remotekeys.h"
+
+#include <QtCore/qdir.h>
+#include <QtCore/qtemporarydir.h>
+
+using gallery::CommandLine;
+using gallery::ExitCode;
+using gallery::parseCommandLine;
+using gallery::parseRemoteKeys;
+
+class tst_CommandLine : public stbtest::TestCase
+{
+    Q_OBJECT
+
+    static CommandLine parse(const QStringList &arguments)
+    {
+        return parseCommandLine(QStringList { QStringLiteral("stbui-gallery") } + arguments);
+    }
+
+    QString file(const QString &name, const QByteArray &content = "x") const
+    {
+        const QString path = m_folder.filePath(name);
+        QFile opened(path);
+        if (!opened.open(QIODevice::WriteOnly) || opened.write(content) != content.size())
+            return {};
+        return path;
+    }
+
+    QTemporaryDir m_folder;
+
+private Q_SLOTS:
+    void withoutArgumentsThereIsSomethingToRun()
+    {
+        const CommandLine line = parse({});
+        QVERIFY(!line.exitCode);
+        QVERIFY(!line.options.now.isValid());
+        QVERIFY(line.options.guideFile.isEmpty());
+    }
+
+    void everyOptionArrives()
+    {
+        const QString guide = file(QStringLiteral("guide.xml"));
+        const QString theme = file(QStringLiteral("theme.json"));
+        const CommandLine line = parse({ "--guide", guide, "--now", "2015-11-26T20:05:00Z", "--screen",
+                                         "guide", "--keys", "Down Right", "--screenshots",
+                                         m_folder.filePath("shots"), "--theme", theme, "--resolution", "sd",
+                                         "--backend", "software", "--language", "ru" });
+        QVERIFY2(!line.exitCode, qPrintable(line.message));
+        QCOMPARE(line.options.guideFile, guide);
+        QCOMPARE(line.options.now, QDateTime(QDate(2015, 11, 26), QTime(20, 5), Qt::UTC));
+        QCOMPARE(line.options.screen, "guide");
+        QCOMPARE(line.options.keys, (QList { Qt::Key_Down, Qt::Key_Right }));
+        QCOMPARE(line.options.screenshotsFolder, m_folder.filePath("shots"));
+        QVERIFY(QDir(m_folder.filePath("shots")).exists());
+        QCOMPARE(line.options.themeFile, theme);
+        QCOMPARE(line.options.resolution, "sd");
+        QCOMPARE(line.options.backend, "software");
+        QCOMPARE(line.options.language, "ru");
+    }
+
+    void anOffsetInTheTimeCounts()
+    {
+        const CommandLine line = parse({ "--now", "2015-11-26T20:05:00+02:00" });
+        QCOMPARE(line.options.now, QDateTime(QDate(2015, 11, 26), QTime(18, 5), Qt::UTC));
+    }
+
+    void aWrongArgumentIsAnErrorInOneLine_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("names");
+        const QString folder = m_folder.path();
+        const QString plain = file(QStringLiteral("plain"));
+        QTest::newRow("unknown option") << QStringList { "--frobnicate" } << "frobnicate";
+        QTest::newRow("missing value") << QStringList { "--guide" } << "guide";
+        QTest::newRow("stray argument") << QStringList { "guide.xml" } << "guide.xml";
+        QTest::newRow("unknown key") << QStringList { "--keys", "Down Sideways" } << "Sideways";
+        QTest::newRow("bad date") << QStringList { "--now", "tomorrow" } << "tomorrow";
+        QTest::newRow("day that does not exist")
+                << QStringList { "--now", "2015-02-30T10:00:00Z" } << "2015-02-30";
+        QTest::newRow("empty date") << QStringList { "--now", "" } << "date";
+        QTest::newRow("unknown screen") << QStringList { "--screen", "kitchen" } << "kitchen";
+        QTest::newRow("unknown resolution") << QStringList { "--resolution", "4k" } << "4k";
+        QTest::newRow("unknown backend") << QStringList { "--backend", "abacus" } << "abacus";
+        QTest::newRow("unknown language") << QStringList { "--language", "xx" } << "xx";
+        QTest::newRow("missing guide")
+                << QStringList { "--guide", "/does/not/exist.xml" } << "/does/not/exist.xml";
+        QTest::newRow("folder as guide") << QStringList { "--guide", folder } << folder;
+        QTest::newRow("missing theme")
+                << QStringList { "--theme", "/does/not/exist.json" } << "/does/not/exist.json";
+        QTest::newRow("pictures into a file") << QStringList { "--screenshots", plain } << plain;
+        QTest::newRow("pictures below a file") << QStringList { "--screenshots", plain + "/in" } << plain;
+        QTest::newRow("pictures nowhere") << QStringList { "--screenshots", "" } << "pictures";
+    }
+    void aWrongArgumentIsAnErrorInOneLine()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, names);
+        const CommandLine line = parse(arguments);
+        QVERIFY(line.exitCode);
+        QCOMPARE(int(*line.exitCode), int(ExitCode::Usage));
+        QVERIFY2(line.message.contains(names), qPrintable(line.message));
+        QVERIFY2(!line.message.contains(u'\n'), qPrintable(line.message));
+    }
+
+    void noFolderIsMadeForAWrongArgument()
+    {
+        parse({ "--screenshots", m_folder.filePath("early"), "--screen", "kitchen" });
+        QVERIFY(!QFile::exists(m_folder.filePath("early")));
+    }
+
+    void keysAreReadInAnyCaseAndSeparatedByBlanksOrCommas()
+    {
+        const gallery::RemoteKeys keys = parseRemoteKeys(QStringLiteral(" down,PAGEUP\tReturn  back "));
+        QCOMPARE(keys.unknown, QString());
+        QCOMPARE(keys.keys, (QList { Qt::Key_Down, Qt::Key_PageUp, Qt::Key_Return, Qt::Key_Back }));
+    }
+
+    void everyNamedKeyIsKnown()
+    {
+        const QStringList names = gallery::remoteKeyNames();
+        QVERIFY(names.contains("Up") && names.contains("End"));
+        QCOMPARE(parseRemoteKeys(names.join(u' ')).keys.size(), names.size());
+    }
+
+    void readingStopsAtAnUnknownKey()
+    {
+        const gallery::RemoteKeys keys = parseRemoteKeys(QStringLiteral("Up Nonsense Down"));
+        QCOMPARE(keys.unknown, "Nonsense");
+        QCOMPARE(keys.keys, QList { Qt::Key_Up });
+    }
+
+    void helpListsEveryOption()
+    {
+        const GalleryRun run = runGallery({ "--help" });
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.errors, QString());
+        for (const char *option : { "--guide", "--now", "--screen", "--keys", "--screenshots", "--theme",
+                                    "--resolution", "--backend", "--language", "--help", "--version" })
+            QVERIFY2(run.output.contains(QLatin1String(option)), option);
+    }
+
+    void versionIsOneLine()
+    {
+        const GalleryRun run = runGallery({ "--version" });
+        QCOMPARE(run.exitCode, 0);
+        QVERIFY2(run.output.startsWith("stbui-gallery ") && run.output.count(u'\n') == 1,
+                 qPrintable(run.output));
+    }
+
+    void theProgramEndsWithTwoAndOneLineForAWrongArgument()
+    {
+        const GalleryRun run = runGallery({ "--resolution", "4k" });
+        QCOMPARE(run.exitCode, 2);
+        QCOMPARE(run.output, QString());
+        QCOMPARE(run.errors, "stbui-gallery: unknown resolution \"4k\"; expected hd or fullhd or sd\n");
+    }
+
+    void aFileThatIsNoGuideEndsTheProgramWithTwo()
+    {
+        const QString path = file(QStringLiteral("no-guide.xml"), "this is no guide\n");
+        const GalleryRun run = runGallery({ "--guide", path, "--screenshots", m_folder.filePath("none") });
+        QCOMPARE(run.exitCode, 2);
+        QCOMPARE(run.output, QString());
+        QVERIFY2(run.errors.contains("no-guide.xml") && run.errors.count(u'\n') == 1, qPrintable(run.errors));
+    }
+
+    void withoutADisplayTheProgramSaysSo()
+    {
+        const GalleryRun run = runGallery({});
+        QCOMPARE(run.exitCode, 1);
+        QCOMPARE(run.errors, "stbui-gallery: there is no display to show the window on; --screenshots writes "
+                             "pictures instead\n");
+    }
+};
+
+STB_TEST_MAIN(tst_CommandLine)
+#include "tst_commandline.moc"

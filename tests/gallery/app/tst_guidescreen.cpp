@@ -1,0 +1,248 @@
+// SPDX-License-Identifier: MIT
+#include "guides.h"
+#include "testkit/testcase.h"
+
+#include "app/application.h"
+#include "app/languages.h"
+#include "screens/guidecontroller.h"
+
+#include <QtCore/qrandom.h>
+#include <QtCore/qtemporaryfile.h>
+#include <QtGui/qimage.h>
+#include <QtQml/qqmlengine.h>
+#include <QtQuick/qquickitem.h>
+#include <QtQuick/qquickview.h>
+
+/*! The guide screen in its window, steered with key events. */
+class tst_GuideScreen : public stbtest::TestCase
+{
+    Q_OBJECT
+
+    void start(gallery::Options options = {})
+    {
+        options.now = guides::at(20, 5);
+        if (options.language.isEmpty())
+            options.language = "en";
+        m_application = std::make_unique<gallery::Application>(options);
+        QVERIFY2(m_application->start(), qPrintable(m_application->error()));
+        QVERIFY(QTest::qWaitForWindowExposed(m_application->view()));
+        guide()->setGuide(guides::five());
+    }
+
+    gallery::GuideController *guide() const { return m_application->guide(); }
+    QQuickView *view() const { return m_application->view(); }
+    QQuickItem *item(const char *name) const { return view()->rootObject()->findChild<QQuickItem *>(name); }
+    void press(Qt::Key key) const { QTest::keyClick(view(), key); }
+
+    static void collectPlates(QQuickItem *item, QList<QQuickItem *> &plates)
+    {
+        if (item->objectName() == "focusPlate" && item->isVisible())
+            plates.append(item);
+        const QList<QQuickItem *> children = item->childItems();
+        for (QQuickItem *child : children)
+            collectPlates(child, plates);
+    }
+
+    static QRectF sceneRect(QQuickItem *item)
+    {
+        return item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
+    }
+
+    /*! Why the focus cannot be seen, or nothing when it can. */
+    QString focusProblem() const
+    {
+        QList<QQuickItem *> plates;
+        collectPlates(view()->rootObject(), plates);
+        if (view()->activeFocusItem() == nullptr)
+            return "nothing has the focus";
+        if (plates.size() != 1)
+            return QStringLiteral("%1 focus plates").arg(plates.size());
+        const QRectF plate = sceneRect(plates.constFirst());
+        const QRectF place = guide()->isDetailsOpen() ? sceneRect(view()->rootObject())
+                                                      : sceneRect(item("programmes"));
+        if (plate.height() < 20 || !place.adjusted(-1, -1, 1, 1).contains(plate))
+            return QStringLiteral("the focus plate is at %1, %2 high").arg(plate.y()).arg(plate.height());
+        return {};
+    }
+
+    /*! The texts that are shown. */
+    static void collectTexts(QQuickItem *item, QStringList &texts)
+    {
+        if (item->isVisible() && !item->property("text").toString().isEmpty())
+            texts.append(item->property("text").toString());
+        const QList<QQuickItem *> children = item->childItems();
+        for (QQuickItem *child : children)
+            collectTexts(child, texts);
+    }
+
+    QStringList texts() const
+    {
+        QStringList result;
+        collectTexts(view()->rootObject(), result);
+        return result;
+    }
+
+    std::unique_ptr<gallery::Application> m_application;
+
+private Q_SLOTS:
+    void cleanup()
+    {
+        m_application.reset();
+        QVERIFY(gallery::installLanguage(QStringLiteral("en")));
+    }
+
+    void startsWithTheFocusOnTheProgrammeThatIsOn()
+    {
+        start();
+        QCOMPARE(guide()->title(), "A40");
+        QCOMPARE(item("programmes")->property("currentIndex").toInt(), 40);
+        QCOMPARE(focusProblem(), QString());
+    }
+
+    void aPageIsWhatFitsIntoTheList()
+    {
+        start();
+        QVERIFY2(guide()->rowsPerPage() >= 4 && guide()->rowsPerPage() <= 8,
+                 qPrintable(QString::number(guide()->rowsPerPage())));
+    }
+
+    void keysReachTheControllerOnce()
+    {
+        start();
+        press(Qt::Key_Down);
+        QCOMPARE(guide()->title(), "A41");
+        press(Qt::Key_Right);
+        QCOMPARE(guide()->title(), "B26");
+        press(Qt::Key_Home);
+        QCOMPARE(guide()->programmeRow(), 0);
+        QCOMPARE(focusProblem(), QString());
+        press(Qt::Key_End);
+        QCOMPARE(focusProblem(), QString());
+    }
+
+    void theChosenRowIsShownAfterAChangeOfChannel()
+    {
+        start();
+        for (const Qt::Key key : { Qt::Key_End, Qt::Key_Right, Qt::Key_Right, Qt::Key_Right, Qt::Key_Right }) {
+            press(key);
+            QCOMPARE(item("programmes")->property("currentIndex").toInt(), guide()->programmeRow());
+            QCOMPARE(item("channels")->property("currentIndex").toInt(), guide()->channelRow());
+            QCOMPARE(focusProblem(), QString());
+        }
+    }
+
+    void aChannelWithoutProgrammesSaysSoAndKeepsTheFocus()
+    {
+        start();
+        press(Qt::Key_Right);
+        press(Qt::Key_Right);
+        QVERIFY(texts().contains("No programmes on this day"));
+        QCOMPARE(focusProblem(), QString());
+    }
+
+    void anEmptyGuideSaysSoAndKeepsTheFocus()
+    {
+        start();
+        guide()->setGuide({});
+        QVERIFY(texts().contains("There are no channels in this guide"));
+        QCOMPARE(focusProblem(), QString());
+    }
+
+    void theDetailsTakeTheFocusAndGiveItBack()
+    {
+        start();
+        press(Qt::Key_Return);
+        QVERIFY(guide()->isDetailsOpen());
+        QCOMPARE(focusProblem(), QString());
+        press(Qt::Key_Back);
+        QVERIFY(!guide()->isDetailsOpen());
+        QCOMPARE(focusProblem(), QString());
+    }
+
+    void theFocusIsSeenAfterAnyKeys()
+    {
+        start();
+        const QList<Qt::Key> keys { Qt::Key_Up,     Qt::Key_Down,     Qt::Key_Left, Qt::Key_Right,
+                                    Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End,
+                                    Qt::Key_Return, Qt::Key_Back,     Qt::Key_A,    Qt::Key_Tab,
+                                    Qt::Key_Backtab };
+        QRandomGenerator random(20260304);
+        for (int step = 0; step < 2000; ++step) {
+            const Qt::Key key = keys.at(random.bounded(int(keys.size())));
+            press(key);
+            const QString problem = focusProblem();
+            QVERIFY2(problem.isEmpty(),
+                     qPrintable(QStringLiteral("step %1, key %2: %3").arg(step).arg(key).arg(problem)));
+        }
+    }
+
+    void anotherLanguageIsShownAtOnce()
+    {
+        start();
+        QVERIFY(texts().contains("TV guide"));
+        QVERIFY(gallery::installLanguage(QStringLiteral("de")));
+        view()->engine()->retranslate();
+        QVERIFY(texts().contains("TV-Programm"));
+        QVERIFY(!texts().contains("TV guide"));
+    }
+
+    void inArabicTheChannelsAreOnTheRight()
+    {
+        start();
+        QVERIFY(sceneRect(item("channels")).right() < sceneRect(item("programmes")).left());
+        gallery::Options arabic;
+        arabic.language = "ar";
+        m_application.reset();
+        start(arabic);
+        QVERIFY(sceneRect(item("channels")).left() > sceneRect(item("programmes")).right());
+        press(Qt::Key_Left);
+        QCOMPARE(guide()->channelName(), "Channel b");
+        QCOMPARE(focusProblem(), QString());
+    }
+
+    void aMalformedGuideShowsWhatThereIsAndWhereItEnds()
+    {
+        QTemporaryFile file;
+        QVERIFY(file.open());
+        file.write("<tv>\n<channel id=\"c\"><display-name>Kept</display-name></channel>\n"
+                   "<programme start=\"20260304200000 +0000\" stop=\"20260304210000 +0000\" channel=\"c\">"
+                   "<title>Also kept</title></programme>\n"
+                   "<programme start=\"20260304210000 +0000\" <broken>\n");
+        file.close();
+        gallery::Options options;
+        options.guideFile = file.fileName();
+        options.now = guides::at(20, 5);
+        options.language = "en";
+        m_application = std::make_unique<gallery::Application>(options);
+        QVERIFY2(m_application->start(), qPrintable(m_application->error()));
+        QTRY_COMPARE(guide()->title(), "Also kept");
+        QVERIFY2(guide()->message().startsWith("The guide is not complete: "), qPrintable(guide()->message()));
+        QVERIFY2(guide()->message().contains("line 4"), qPrintable(guide()->message()));
+        QVERIFY2(guide()->message().contains("column"), qPrintable(guide()->message()));
+        QVERIFY(texts().contains(guide()->message()));
+        QTRY_VERIFY(view()->isExposed());
+    }
+
+    void theControlsIconsAreThere_data()
+    {
+        QTest::addColumn<int>("size");
+        QTest::newRow("live_status_on") << 16;
+        QTest::newRow("lock_icon_white") << 24;
+        QTest::newRow("favorite_small") << 24;
+        QTest::newRow("reminder_small") << 20;
+        QTest::newRow("single_epg/epg_preview_play") << 48;
+        QTest::newRow("player/status/play") << 24;
+        QTest::newRow("player/playing_content") << 20;
+    }
+    void theControlsIconsAreThere()
+    {
+        QFETCH(int, size);
+        const QImage icon(
+                QStringLiteral(":/resources/icons/%1.png").arg(QLatin1String(QTest::currentDataTag())));
+        QCOMPARE(icon.size(), QSize(size, size));
+        QVERIFY(icon.hasAlphaChannel());
+    }
+};
+
+STB_TEST_MAIN(tst_GuideScreen)
+#include "tst_guidescreen.moc"
