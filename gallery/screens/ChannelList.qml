@@ -6,6 +6,8 @@ import Gallery
 ListView {
     interactive: false
     clip: true
+    // Rows made ahead of need would still be on their way when the model is reset, which Qt warns of.
+    cacheBuffer: 0
     highlightFollowsCurrentItem: false
     onCurrentItemChanged: positionViewAtIndex(currentIndex, ListView.Center)
     delegate: Item {

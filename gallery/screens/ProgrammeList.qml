@@ -12,6 +12,8 @@ ListView {
     implicitWidth: Look.rowTextArea.x + Look.rowTextArea.width + 2 * Look.medium
     interactive: false
     clip: true
+    // Rows made ahead of need would still be on their way when the model is reset, which Qt warns of.
+    cacheBuffer: 0
     // The chosen row stays in the middle as far as the ends of the list allow, at once: a view that follows a
     // highlight gets there in steps of an animation, and is elsewhere when a key comes in between.
     highlightFollowsCurrentItem: false

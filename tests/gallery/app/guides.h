@@ -25,15 +25,15 @@ struct Show
 
 inline void addChannel(gallery::GuideBuilder &builder, const QString &id, const QList<Show> &shows)
 {
-    builder.addChannel({ id, u"Channel " + id, {}, {} });
+    builder.addChannel({ id, "Channel " + id, {}, {} });
     for (const Show &show : shows) {
         gallery::NewProgramme programme;
         programme.channelId = id;
         programme.start = show.start.toSecsSinceEpoch();
         programme.stop = show.stop.toSecsSinceEpoch();
         programme.title = show.title;
-        programme.subTitle = u"About " + show.title;
-        programme.description = u"All of " + show.title;
+        programme.subTitle = "About " + show.title;
+        programme.description = "All of " + show.title;
         builder.addProgramme(programme);
     }
 }

@@ -107,7 +107,7 @@ private Q_SLOTS:
     {
         QFile theme(m_folder.filePath("theme.json"));
         QVERIFY(theme.open(QIODevice::WriteOnly));
-        theme.write(R"({ "colors": { "oslo": "#FF402010" } })");
+        theme.write("{ \"colors\": { \"oslo\": \"#FF402010\" } }");
         theme.close();
         const QImage image = picture("themed", { "--theme", theme.fileName() });
         QCOMPARE(image.pixelColor(0, 0), QColor(0x40, 0x20, 0x10));
