@@ -215,7 +215,9 @@ private Q_SLOTS:
         options.language = "en";
         m_application = std::make_unique<gallery::Application>(options);
         QVERIFY2(m_application->start(), qPrintable(m_application->error()));
+        QVERIFY(texts().contains("Reading the guide…"));
         QTRY_COMPARE(guide()->title(), "Also kept");
+        QVERIFY(!texts().contains("Reading the guide…"));
         QVERIFY2(guide()->message().startsWith("The guide is not complete: "), qPrintable(guide()->message()));
         QVERIFY2(guide()->message().contains("line 4"), qPrintable(guide()->message()));
         QVERIFY2(guide()->message().contains("column"), qPrintable(guide()->message()));
