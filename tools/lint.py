@@ -102,6 +102,18 @@ def check_shell(files):
     return len(scripts), result.stdout.splitlines() if result.returncode else []
 
 
+def import_folders():
+    """The folders that the build's QML modules are imported from: a module A.B lies in FOLDER/A/B."""
+    folders = set()
+    for qmldir in BUILD.rglob("qmldir"):
+        match = re.match(r"module (\S+)", qmldir.read_text("utf-8"))
+        depth = match.group(1).count(".") + 1 if match else 0
+        if depth and qmldir.parent.parts[-depth:] == tuple(match.group(1).split(".")):
+            folders.add(qmldir.parents[depth])
+    # A test installs the modules once more below its own folder.
+    return sorted(folder for folder in folders if BUILD / "tests" not in folder.parents)
+
+
 def check_qml(files):
     sources = [file for file in files if file.endswith(".qml")]
     if not sources:
@@ -109,7 +121,8 @@ def check_qml(files):
     program = next((path for path in map(shutil.which, QMLLINT_CANDIDATES) if path), None)
     if program is None:
         sys.exit("lint: qmllint is not there (package qt6-declarative-dev-tools)")
-    result = run([program, "-I", str(BUILD / "qml"), *sources])
+    imports = [word for folder in import_folders() for word in ("-I", str(folder))]
+    result = run([program, *imports, *sources])
     # Qt 6.4 ends with 255 on any warning, later versions with 0 unless told the number of warnings allowed.
     found = result.returncode != 0 or re.search(r"^(Warning|Error)\b", result.stdout, re.M)
     return len(sources), [result.stdout.rstrip()] if found else []
@@ -152,7 +165,7 @@ def translation_units():
     """Path in the tree -> its compile command and the headers it reads. Generated sources are left out."""
     database = BUILD / "compile_commands.json"
     if not database.is_file():
-        sys.exit("lint: build/dev is not configured; run tools/lint without --no-build")
+        sys.exit(f"lint: {BUILD} is not configured; run tools/lint without --no-build")
     headers = header_lists()
     units = {}
     for entry in json.loads(database.read_text()):
@@ -251,6 +264,8 @@ def parse_arguments():
     parser.add_argument("--fix", action="store_true", help="let clang-format change the files")
     parser.add_argument("--no-build", action="store_true", help="take build/dev as it is")
     parser.add_argument("--no-tidy", action="store_true", help="leave out clang-tidy, the slow one")
+    parser.add_argument("--only", metavar="CHECK", help="clang-format, qmllint, shellcheck or clang-tidy")
+    parser.add_argument("--build", metavar="FOLDER", default=BUILD, help="the build instead of build/dev")
     parser.add_argument("--jobs", type=int, default=len(os.sched_getaffinity(0)), help="clang-tidy processes")
     parser.add_argument("files", nargs="*", help="files to check, relative to the current folder")
     return parser.parse_args()
@@ -272,16 +287,20 @@ def report(name, count, findings, started, note="", shown=False):
 
 
 def main():
+    global BUILD
     options = parse_arguments()
+    BUILD = pathlib.Path(options.build).resolve()
     files = chosen_files(options)
     checks = (("clang-format", lambda: check_format(files, options.fix)), ("qmllint", lambda: check_qml(files)),
               ("shellcheck", lambda: check_shell(files)))
     failed = False
     for name, check in checks:
+        if options.only not in (None, name):
+            continue
         started = time.monotonic()
         count, findings = check()
         failed |= report(name, count, findings, started)
-    if not options.no_tidy:
+    if not options.no_tidy and options.only in (None, "clang-tidy"):
         started = time.monotonic()
         count, cached, findings = check_tidy(files, options.all, options.jobs)
         failed |= report("clang-tidy", count, findings, started, f", {cached} known from before", shown=True)
