@@ -35,7 +35,7 @@ public:
                              .arg(QLatin1String(object->metaObject()->className())));
             return nullptr;
         }
-        object.release();
+        static_cast<void>(object.release()); // the item is owned from here on
         item->setParentItem(parent);
         return std::unique_ptr<Item>(item);
     }

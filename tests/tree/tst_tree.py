@@ -70,6 +70,9 @@ README_ELSEWHERE = {
     "platform/core/stbcore": "platform",
     "platform/design/design_system": "platform",
     "qml/Experimental": "qml",
+    "benchmarks/counters": "benchmarks",
+    "benchmarks/forms": "benchmarks",
+    "benchmarks/time": "benchmarks",
 }
 # Everything in tests/ is spoken for by the README there, but for the test kit, which is a library.
 README_OF_TESTS = "tests"

@@ -93,7 +93,7 @@ private Q_SLOTS:
 
     void withoutAConfigurationItIsTheCompiledInThemeForHd()
     {
-        QCOMPARE(stbconfig::qmlConfigManager(), nullptr);
+        stbconfig::setQmlConfigManager(nullptr);
         const QmlDesignSystem system;
         QCOMPARE(system.resolution(), QStringLiteral("hd"));
         QCOMPARE(system.theme(), QString());
