@@ -45,11 +45,11 @@ TextPool::Ref TextPool::add(QStringView text)
     char *place = reserve(size);
     std::memcpy(place, &length, sizeof length);
     std::memcpy(place + sizeof length, utf8.constData(), size_t(utf8.size()));
-    const auto known = m_known.constFind(Key{ place });
+    const auto known = m_known.constFind(Key { place });
     if (known != m_known.constEnd())
         return known->ref; // the place is not taken and serves the next text
     if (m_known.size() < maximumKnown)
-        m_known.insert(Key{ place });
+        m_known.insert(Key { place });
     m_free += size;
     m_left -= size;
     return place;

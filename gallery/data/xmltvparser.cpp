@@ -154,7 +154,7 @@ void XmltvParser::startEntry(Element element)
 
 void XmltvParser::startDetail()
 {
-    static constexpr std::array<std::pair<QStringView, Slot>, 5> programmeDetails{ {
+    static constexpr std::array<std::pair<QStringView, Slot>, 5> programmeDetails { {
             { u"title", Title },
             { u"sub-title", SubTitle },
             { u"desc", Description },

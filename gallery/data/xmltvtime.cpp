@@ -19,18 +19,21 @@ struct NamedZone
 // Sorted by name. Names that stand for several zones of different offsets (IST, CST in Asia) have the
 // meaning that they have in guide files of Europe and North America, or are left out.
 constexpr std::array zones = {
-    NamedZone{ "ACDT", 630 }, NamedZone{ "ACST", 570 },  NamedZone{ "ADT", -180 },  NamedZone{ "AEDT", 660 },
-    NamedZone{ "AEST", 600 }, NamedZone{ "AKDT", -480 }, NamedZone{ "AKST", -540 }, NamedZone{ "AST", -240 },
-    NamedZone{ "AWST", 480 }, NamedZone{ "BRT", -180 },  NamedZone{ "BST", 60 },    NamedZone{ "CDT", -300 },
-    NamedZone{ "CEST", 120 }, NamedZone{ "CET", 60 },    NamedZone{ "CST", -360 },  NamedZone{ "EDT", -240 },
-    NamedZone{ "EEST", 180 }, NamedZone{ "EET", 120 },   NamedZone{ "EST", -300 },  NamedZone{ "GMT", 0 },
-    NamedZone{ "HKT", 480 },  NamedZone{ "HST", -600 },  NamedZone{ "JST", 540 },   NamedZone{ "KST", 540 },
-    NamedZone{ "MDT", -360 }, NamedZone{ "MEST", 120 },  NamedZone{ "MESZ", 120 },  NamedZone{ "MET", 60 },
-    NamedZone{ "MEZ", 60 },   NamedZone{ "MSD", 240 },   NamedZone{ "MSK", 180 },   NamedZone{ "MST", -420 },
-    NamedZone{ "NDT", -150 }, NamedZone{ "NST", -210 },  NamedZone{ "NZDT", 780 },  NamedZone{ "NZST", 720 },
-    NamedZone{ "PDT", -420 }, NamedZone{ "PST", -480 },  NamedZone{ "SAST", 120 },  NamedZone{ "TRT", 180 },
-    NamedZone{ "UT", 0 },     NamedZone{ "UTC", 0 },     NamedZone{ "WEST", 60 },   NamedZone{ "WET", 0 },
-    NamedZone{ "Z", 0 },
+    NamedZone { "ACDT", 630 },  NamedZone { "ACST", 570 }, NamedZone { "ADT", -180 },
+    NamedZone { "AEDT", 660 },  NamedZone { "AEST", 600 }, NamedZone { "AKDT", -480 },
+    NamedZone { "AKST", -540 }, NamedZone { "AST", -240 }, NamedZone { "AWST", 480 },
+    NamedZone { "BRT", -180 },  NamedZone { "BST", 60 },   NamedZone { "CDT", -300 },
+    NamedZone { "CEST", 120 },  NamedZone { "CET", 60 },   NamedZone { "CST", -360 },
+    NamedZone { "EDT", -240 },  NamedZone { "EEST", 180 }, NamedZone { "EET", 120 },
+    NamedZone { "EST", -300 },  NamedZone { "GMT", 0 },    NamedZone { "HKT", 480 },
+    NamedZone { "HST", -600 },  NamedZone { "JST", 540 },  NamedZone { "KST", 540 },
+    NamedZone { "MDT", -360 },  NamedZone { "MEST", 120 }, NamedZone { "MESZ", 120 },
+    NamedZone { "MET", 60 },    NamedZone { "MEZ", 60 },   NamedZone { "MSD", 240 },
+    NamedZone { "MSK", 180 },   NamedZone { "MST", -420 }, NamedZone { "NDT", -150 },
+    NamedZone { "NST", -210 },  NamedZone { "NZDT", 780 }, NamedZone { "NZST", 720 },
+    NamedZone { "PDT", -420 },  NamedZone { "PST", -480 }, NamedZone { "SAST", 120 },
+    NamedZone { "TRT", 180 },   NamedZone { "UT", 0 },     NamedZone { "UTC", 0 },
+    NamedZone { "WEST", 60 },   NamedZone { "WET", 0 },    NamedZone { "Z", 0 },
 };
 
 bool isDigit(QChar c)
@@ -114,15 +117,15 @@ std::optional<XmltvTime> parseXmltvTime(QStringView text)
         return std::nullopt;
     const QStringView zone = text.mid(digits).trimmed();
     if (zone.isEmpty())
-        return XmltvTime{ *local, true };
+        return XmltvTime { *local, true };
     if (isSign(zone.front())) {
         const std::optional<int> offset = numericOffset(zone);
-        return offset ? std::optional(XmltvTime{ *local - *offset, true }) : std::nullopt;
+        return offset ? std::optional(XmltvTime { *local - *offset, true }) : std::nullopt;
     }
     if (!std::all_of(zone.cbegin(), zone.cend(), [](QChar c) { return c.isLetter(); }))
         return std::nullopt;
     const std::optional<int> offset = namedOffset(zone);
-    return XmltvTime{ *local - offset.value_or(0), offset.has_value() };
+    return XmltvTime { *local - offset.value_or(0), offset.has_value() };
 }
 
 } // namespace gallery

@@ -21,7 +21,7 @@ constexpr QChar ellipsis(0x2026);
 // QTextLayout bounds every line width by this number of pixels.
 constexpr int widestLine = 2147483647 / 256;
 
-std::atomic<quint64> shapedTexts{ 0 };
+std::atomic<quint64> shapedTexts { 0 };
 
 bool isLineBreak(QChar c)
 {

@@ -97,7 +97,7 @@ Guide sample()
 struct Fixture
 {
     ProgrammeModel model;
-    QAbstractItemModelTester tester{ &model, QAbstractItemModelTester::FailureReportingMode::QtTest };
+    QAbstractItemModelTester tester { &model, QAbstractItemModelTester::FailureReportingMode::QtTest };
 
     explicit Fixture(const Guide &guide = sample(), const char *now = "2015-11-26T20:05:00Z")
     {

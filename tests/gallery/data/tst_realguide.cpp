@@ -170,7 +170,7 @@ void TestRealGuide::aFileWithAByteOrderMarkShowsItsProgramme()
     QCOMPARE(programme.title, QStringLiteral("Unforgettable"));
     QCOMPARE(programme.subTitle, QStringLiteral("Trajectories"));
     QCOMPARE(programme.category, QStringLiteral("Series"));
-    QCOMPARE(programme.time, (TimeSpan{ at("2020-07-29T01:00:00Z"), at("2020-07-29T02:01:00Z") }));
+    QCOMPARE(programme.time, (TimeSpan { at("2020-07-29T01:00:00Z"), at("2020-07-29T02:01:00Z") }));
 }
 
 STB_TEST_MAIN(TestRealGuide)

@@ -123,7 +123,7 @@ int naturalWidth(const QString &text)
 } // namespace
 
 #define VERIFY_SHOWS(renderer, ...) \
-    QCOMPARE(painted(renderer), paintedByQt(QStringList{ __VA_ARGS__ }, (renderer).boundingRect().size()))
+    QCOMPARE(painted(renderer), paintedByQt(QStringList { __VA_ARGS__ }, (renderer).boundingRect().size()))
 
 class tst_TextRenderer : public stbtest::TestCase
 {
@@ -291,8 +291,8 @@ private Q_SLOTS:
 
     void anyOrderOfChangesEndsInTheSamePicture()
     {
-        const QStringList texts{ QStringLiteral("one two three four"), QStringLiteral("a\nb\n\n"),
-                                 QStringLiteral("jackdaws love my big sphinx   "), "שלום עולם abc"_u };
+        const QStringList texts { QStringLiteral("one two three four"), QStringLiteral("a\nb\n\n"),
+                                  QStringLiteral("jackdaws love my big sphinx   "), "שלום עולם abc"_u };
         TextRenderer walker = laidOut(texts.constFirst());
         quint32 seed = 12345;
         const auto random = [&seed](int below) {
@@ -305,7 +305,7 @@ private Q_SLOTS:
                 walker.setText(texts.at(random(4)));
                 break;
             case 1:
-                walker.setMaxTextWidth(QList<int>{ 1, 40, 120, 260, unlimited }.at(random(5)));
+                walker.setMaxTextWidth(QList<int> { 1, 40, 120, 260, unlimited }.at(random(5)));
                 break;
             case 2:
                 walker.setMaxLineCount(1 + random(5));
