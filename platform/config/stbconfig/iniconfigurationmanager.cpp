@@ -3,8 +3,13 @@
 
 #include <QtCore/qfileinfo.h>
 #include <QtCore/qlogging.h>
+#include <QtCore/qsavefile.h>
 #include <QtCore/qsettings.h>
 #include <QtCore/qstandardpaths.h>
+#include <QtCore/qtemporaryfile.h>
+
+#include <filesystem>
+#include <optional>
 
 namespace stbconfig {
 
@@ -17,21 +22,58 @@ QString keyPath(const QString &group, const QString &key)
     return general ? key : group + u'/' + key;
 }
 
-// QSettings parses a section when it is first asked for it, and only then tells that it is malformed.
-QSettings::Status statusOfWhole(const QSettings &file)
+// Whether there is a file to read, or none at all. Not so with a folder, a link that leads to itself or a pipe,
+// which would keep its reader waiting.
+bool canBeRead(const QString &fileName)
 {
-    file.allKeys();
-    return file.status();
+    std::error_code error;
+    const auto type = std::filesystem::status(QFileInfo(fileName).filesystemFilePath(), error).type();
+    return type == std::filesystem::file_type::regular || type == std::filesystem::file_type::character
+           || type == std::filesystem::file_type::not_found;
+}
+
+// What stands behind a byte order mark, which editors put in front of UTF-8 and QSettings takes for a part of the
+// first line. Nothing when the file has none.
+std::optional<QByteArray> contentBehindMark(const QString &fileName)
+{
+    const QByteArray mark("\xEF\xBB\xBF");
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly) || file.read(mark.size()) != mark)
+        return std::nullopt;
+    return file.readAll();
+}
+
+// The file's settings, all read by now: QSettings parses a section when it is first asked for it, and only then
+// tells that it is malformed. Null when there is no place for the copy that a marked file needs.
+std::unique_ptr<QSettings> settingsOf(const QString &fileName)
+{
+    const std::optional<QByteArray> content = contentBehindMark(fileName);
+    QTemporaryFile copy;
+    if (content && !(copy.open() && copy.write(*content) == content->size() && copy.flush()))
+        return nullptr;
+    auto settings = std::make_unique<QSettings>(content ? copy.fileName() : fileName, QSettings::IniFormat);
+    settings->allKeys();
+    return settings;
+}
+
+// False when the file has a mark that cannot be taken away.
+bool removeMark(const QString &fileName)
+{
+    const std::optional<QByteArray> content = contentBehindMark(fileName);
+    if (!content)
+        return true;
+    QSaveFile file(fileName);
+    return file.open(QIODevice::WriteOnly) && file.write(*content) == content->size() && file.commit();
 }
 
 } // namespace
 
 IniConfigurationManager::IniConfigurationManager(const QString &fileName)
     : m_fileName(fileName)
-    , m_file(std::make_unique<QSettings>(fileName, QSettings::IniFormat))
+    , m_file(canBeRead(fileName) ? settingsOf(fileName) : nullptr)
 {
-    const QSettings::Status status = statusOfWhole(*m_file);
-    if (status == QSettings::NoError && !QFileInfo(fileName).isDir())
+    const QSettings::Status status = m_file ? m_file->status() : QSettings::AccessError;
+    if (status == QSettings::NoError)
         return;
     const bool malformed = status == QSettings::FormatError;
     m_file.reset();
@@ -70,10 +112,9 @@ QVariant IniConfigurationManager::value(const QString &group, const QString &key
 
 bool IniConfigurationManager::setValue(const QString &group, const QString &key, const QVariant &value)
 {
-    const QString path = keyPath(group, key);
-    if (writeToFile(path, value))
+    m_unsaved.insert(keyPath(group, key), value);
+    if (writeUnsaved())
         return true;
-    m_unsaved.insert(path, value);
     if (!m_warnedOfWriting)
         qWarning("The configuration file \"%s\" cannot be written; settings are kept until the program ends",
                  qPrintable(m_fileName));
@@ -90,20 +131,23 @@ QVariant IniConfigurationManager::storedValue(const QString &path) const
 }
 
 // The status of a QSettings object never becomes good again, so that each attempt has an object of its own.
-bool IniConfigurationManager::writeToFile(const QString &path, const QVariant &value)
+bool IniConfigurationManager::writeUnsaved()
 {
-    if (!m_file)
+    if (!m_file || !removeMark(m_fileName))
         return false;
-    QSettings file(m_fileName, QSettings::IniFormat);
-    if (statusOfWhole(file) == QSettings::FormatError) {
+    auto file = std::make_unique<QSettings>(m_fileName, QSettings::IniFormat);
+    file->allKeys();
+    if (file->status() == QSettings::FormatError) {
         m_file.reset(); // somebody broke the file since it was opened: to write it would lose what is in it
         return false;
     }
-    file.setValue(path, value);
-    file.sync();
-    if (file.status() != QSettings::NoError)
+    for (auto value = m_unsaved.cbegin(); value != m_unsaved.cend(); ++value)
+        file->setValue(value.key(), value.value());
+    file->sync();
+    if (file->status() != QSettings::NoError)
         return false;
-    m_unsaved.remove(path);
+    m_unsaved.clear();
+    m_file = std::move(file); // what was read may have been a copy
     return true;
 }
 

@@ -23,7 +23,7 @@ namespace stbconfig {
     Names are case-sensitive. Lines above the first section and those in [General] are the group "General",
     which the empty group name means too. Read values are strings; one that is to hold a comma stands in double
     quotes, and without them its parts are trimmed and joined again with commas (a QStringList when the default
-    value is one).
+    value is one). The text is UTF-8, with a byte order mark or without.
 
     A missing file is an empty store. A file that cannot be read or is malformed is an empty store too, with
     one warning that names it; it is never written to.
@@ -46,13 +46,14 @@ public:
     /*!
         Stores \a value, in memory and at once in the file, which is made with its folders when it is missing.
         Returns whether it is in the file. The first time it is not, one warning says so; the store keeps the
-        value as long as it lives. Comments in the file are lost.
+        value as long as it lives and tries again with the next one. Comments in the file and its byte order mark
+        are lost.
     */
     bool setValue(const QString &group, const QString &key, const QVariant &value);
 
 private:
     QVariant storedValue(const QString &path) const;
-    bool writeToFile(const QString &path, const QVariant &value);
+    bool writeUnsaved();
 
     QString m_fileName;
     std::unique_ptr<QSettings> m_file; // null: the file cannot be used

@@ -8,6 +8,8 @@
 #include <QtCore/qregularexpression.h>
 #include <QtCore/qtemporarydir.h>
 
+#include <sys/stat.h>
+
 using stbconfig::IniConfigurationManager;
 
 class tst_IniConfigurationManager : public stbtest::TestCase
@@ -61,6 +63,13 @@ private Q_SLOTS:
         row("no line end at the end", "[UI]\ntheme=a", "UI", "theme", QStringLiteral("a"));
         row("CR LF", "[UI]\r\ntheme=a\r\nlanguage=de\r\n", "UI", "language", QStringLiteral("de"));
         row("UTF-8", "[UI]\ntheme=\xC3\xA4\xE2\x82\xAC\n", "UI", "theme", QString::fromUtf8("ä€"));
+        row("mark, then a section", "\xEF\xBB\xBF[UI]\ntheme=\xC3\xA4\n", "UI", "theme",
+            QString::fromUtf8("ä"));
+        row("mark, then a key", "\xEF\xBB\xBFtheme=a\n[UI]\ntheme=b\n", "General", "theme",
+            QStringLiteral("a"));
+        row("mark, then a comment", "\xEF\xBB\xBF; c\r\n[UI]\r\ntheme=a\r\n", "UI", "theme",
+            QStringLiteral("a"));
+        row("mark, then nothing", "\xEF\xBB\xBF", "UI", "theme", QStringLiteral("(default)"));
         row("quotes", "[UI]\ntheme=\"a, b; c\"\n", "UI", "theme", QStringLiteral("a, b; c"));
         row("commas", "[UI]\ntheme=/a,b/c.json\n", "UI", "theme", QStringLiteral("/a,b/c.json"));
         row("section General", "[General]\ntheme=a\n", "General", "theme", QStringLiteral("a"));
@@ -94,7 +103,7 @@ private Q_SLOTS:
     {
         write("[A]\nnames=one, two,three\n");
         const IniConfigurationManager store(m_path);
-        const QStringList expected{ QStringLiteral("one"), QStringLiteral("two"), QStringLiteral("three") };
+        const QStringList expected { QStringLiteral("one"), QStringLiteral("two"), QStringLiteral("three") };
         QCOMPARE(store.value(QStringLiteral("A"), QStringLiteral("names"), QStringList()), QVariant(expected));
         QCOMPARE(store.value(QStringLiteral("A"), QStringLiteral("names"), QString()),
                  QVariant(QStringLiteral("one,two,three")));
@@ -105,10 +114,15 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("content");
         QTest::addColumn<QString>("reason");
         const QString malformed = QStringLiteral("is malformed");
-        QTest::newRow("a folder") << QByteArray("<folder>") << QStringLiteral("cannot be read");
+        const QString unreadable = QStringLiteral("cannot be read");
+        QTest::newRow("a folder") << QByteArray("<folder>") << unreadable;
+        QTest::newRow("a link to itself") << QByteArray("<link>") << unreadable;
+        QTest::newRow("a pipe") << QByteArray("<pipe>") << unreadable;
         QTest::newRow("a line that sets nothing") << QByteArray("[UI]\ntheme=a\nhello\n") << malformed;
         QTest::newRow("an open section") << QByteArray("[UI\ntheme=a\n") << malformed;
         QTest::newRow("another format") << QByteArray("{ \"UI\":\n{ \"theme\": 1 }\n}\n") << malformed;
+        QTest::newRow("malformed behind a mark") << QByteArray("\xEF\xBB\xBF[UI]\nhello\n") << malformed;
+        QTest::newRow("UTF-16") << QByteArray("\xFF\xFE[\0U\0I\0]\0\n\0a\0=\0b\0\n\0", 20) << malformed;
     }
 
     void whatCannotBeReadIsAnEmptyStoreWithOneWarningThatNamesIt()
@@ -117,6 +131,10 @@ private Q_SLOTS:
         QFETCH(QString, reason);
         if (content == "<folder>")
             QVERIFY(QDir().mkpath(m_path));
+        else if (content == "<link>")
+            QVERIFY(QFile::link(m_path, m_path));
+        else if (content == "<pipe>")
+            QCOMPARE(mkfifo(QFile::encodeName(m_path).constData(), 0600), 0);
         else
             write(content);
         expectWarning(reason);
@@ -222,6 +240,32 @@ private Q_SLOTS:
                  QVariant(QStringLiteral("x, y")));
         QCOMPARE(store.value(QStringLiteral("Other"), QStringLiteral("list"), 43),
                  QVariant(QStringLiteral("1,2")));
+    }
+
+    void aWriteTakesTheByteOrderMarkAway()
+    {
+        write("\xEF\xBB\xBF[UI]\ntheme=a\nlanguage=de\n");
+        IniConfigurationManager store(m_path);
+        QVERIFY(store.setValue(QStringLiteral("UI"), QStringLiteral("theme"), QStringLiteral("b")));
+        QCOMPARE(read(), QByteArray("[UI]\nlanguage=de\ntheme=b\n"));
+        QCOMPARE(store.value(QStringLiteral("UI"), QStringLiteral("theme"), 43),
+                 QVariant(QStringLiteral("b")));
+        QCOMPARE(store.value(QStringLiteral("UI"), QStringLiteral("language"), 43),
+                 QVariant(QStringLiteral("de")));
+    }
+
+    void aLinkToAFileThatIsMissingIsAMissingFile()
+    {
+        const QString target = m_folder->filePath(QStringLiteral("target.ini"));
+        QVERIFY(QFile::link(target, m_path));
+        IniConfigurationManager store(m_path);
+        QCOMPARE(store.value(QStringLiteral("UI"), QStringLiteral("theme"), 43), QVariant(43));
+    }
+
+    void theNullDeviceIsAnEmptyStore()
+    {
+        const IniConfigurationManager store(QStringLiteral("/dev/null"));
+        QCOMPARE(store.value(QStringLiteral("UI"), QStringLiteral("theme"), 43), QVariant(43));
     }
 
     void writingMakesTheFileAndItsFolders()
