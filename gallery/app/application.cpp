@@ -42,7 +42,7 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext &, const QString
 {
     if (type != QtFatalMsg)
         return;
-    printError(u"there is no display to show the window on; --screenshots writes pictures instead"_s);
+    printError(u"there is no display; --screenshots writes pictures without one, by the software renderer"_s);
     std::_Exit(int(ExitCode::Failure));
 }
 

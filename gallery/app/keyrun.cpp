@@ -2,6 +2,7 @@
 #include "app/keyrun.h"
 
 #include <QtCore/qcoreapplication.h>
+#include <QtCore/qtimer.h>
 #include <QtGui/qevent.h>
 #include <QtQuick/qquickwindow.h>
 
@@ -16,15 +17,34 @@ KeyRun::KeyRun(const QList<Qt::Key> &keys, QQuickWindow *window)
 
 void KeyRun::start()
 {
+    if (m_window->isActive()) {
+        begin();
+        return;
+    }
+    connect(m_window, &QWindow::activeChanged, this, &KeyRun::begin);
+    // A display that gives no window the focus still gets its picture.
+    QTimer::singleShot(1000, this, &KeyRun::begin);
+    m_window->requestActivate();
+}
+
+void KeyRun::begin()
+{
+    if (m_begun)
+        return;
+    m_begun = true;
     // A threaded render loop emits this from its own thread.
-    connect(m_window, &QQuickWindow::frameSwapped, this, &KeyRun::next, Qt::QueuedConnection);
+    m_frames = connect(m_window, &QQuickWindow::frameSwapped, this, &KeyRun::next, Qt::QueuedConnection);
     m_window->update();
 }
 
 void KeyRun::next()
 {
+    // Frames that are told of already still come in after the connection is cut.
+    if (m_finished)
+        return;
     if (m_keys.isEmpty()) {
-        disconnect(m_window, nullptr, this, nullptr);
+        m_finished = true;
+        disconnect(m_frames);
         Q_EMIT finished();
         return;
     }

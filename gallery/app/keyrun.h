@@ -17,9 +17,10 @@ class KeyRun : public QObject
 {
     Q_OBJECT
 public:
-    /*! Presses \a keys in \a window, which is visible. Lives as a child of the window. */
+    /*! Presses \a keys in \a window, which is visible or about to be. Lives as a child of the window. */
     KeyRun(const QList<Qt::Key> &keys, QQuickWindow *window);
 
+    /*! Begins as soon as the window is the active one, which is when keys have somebody to go to. */
     void start();
 
 Q_SIGNALS:
@@ -27,10 +28,14 @@ Q_SIGNALS:
     void finished();
 
 private:
+    void begin();
     void next();
 
     QList<Qt::Key> m_keys;
     QQuickWindow *m_window;
+    QMetaObject::Connection m_frames;
+    bool m_begun = false;
+    bool m_finished = false;
 };
 
 } // namespace gallery

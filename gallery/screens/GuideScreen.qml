@@ -32,6 +32,7 @@ FocusScope {
         anchors.right: parent.right
         anchors.rightMargin: Look.safeX
         dayText: screen.guide.dayText
+        shortDayText: screen.guide.shortDayText
         clockText: screen.guide.clockText
     }
     ChannelList {
@@ -118,7 +119,7 @@ FocusScope {
             anchors.left: times.left
             anchors.right: times.right
             height: Math.ceil(2.1 * metrics.lineSpacing)
-            text: screen.guide.description
+            text: screen.guide.description.length > 0 ? screen.guide.description : qsTr("No description")
             font: Look.caption
             color: Look.quietText
             wrapMode: Text.Wrap

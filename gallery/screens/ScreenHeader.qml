@@ -7,6 +7,8 @@ Item {
     id: header
 
     required property string dayText
+    // Takes the place of the day where that does not fit.
+    required property string shortDayText
     required property string clockText
 
     height: clock.height
@@ -25,7 +27,8 @@ Item {
         anchors.right: clock.left
         anchors.rightMargin: Look.medium
         anchors.baseline: clock.baseline
-        text: header.dayText
+        // Of texts with this character between them, Text shows the first one that fits.
+        text: header.dayText + "\u009C" + header.shortDayText
         font: Look.heading
         color: Look.quietText
     }

@@ -93,9 +93,16 @@ QString GuideController::timeRange() const
 
 QString GuideController::dayText() const
 {
-    const QLocale locale;
     //: Weekday, day and month without the year, in the form that QLocale::toString() takes
-    return locale.toString(m_clock->now().date(), QCoreApplication::translate("GuideScreen", "dddd, d MMMM"));
+    const QString format = QCoreApplication::translate("GuideScreen", "dddd, d MMMM");
+    return QLocale().toString(m_clock->now().date(), format);
+}
+
+QString GuideController::shortDayText() const
+{
+    //: As "dddd, d MMMM", but short
+    const QString format = QCoreApplication::translate("GuideScreen", "ddd, d MMM");
+    return QLocale().toString(m_clock->now().date(), format);
 }
 
 QString GuideController::clockText() const

@@ -44,8 +44,9 @@ class GuideController : public QObject
     /*! How much of the chosen programme is over, 0 to 1. */
     Q_PROPERTY(double progress READ progress NOTIFY nowChanged)
 
-    /*! Day and time of the clock as the language writes them. */
+    /*! Day and time of the clock as the language writes them; the short day is for narrow screens. */
     Q_PROPERTY(QString dayText READ dayText NOTIFY nowChanged)
+    Q_PROPERTY(QString shortDayText READ shortDayText NOTIFY nowChanged)
     Q_PROPERTY(QString clockText READ clockText NOTIFY nowChanged)
 
     Q_PROPERTY(bool detailsOpen READ isDetailsOpen NOTIFY detailsOpenChanged)
@@ -91,6 +92,7 @@ public:
     double progress() const { return chosen(ProgrammeModel::ProgressRole).toDouble(); }
 
     QString dayText() const;
+    QString shortDayText() const;
     QString clockText() const;
 
     bool isDetailsOpen() const { return m_detailsOpen; }

@@ -47,6 +47,15 @@
         <extracomment>%1 says what is wrong, and where in the file</extracomment>
         <translation>The guide is not complete: %1</translation>
     </message>
+    <message>
+        <source>No description</source>
+        <translation>No description</translation>
+    </message>
+    <message>
+        <source>ddd, d MMM</source>
+        <extracomment>As &quot;dddd, d MMMM&quot;, but short</extracomment>
+        <translation>ddd, d MMM</translation>
+    </message>
 </context>
 <context>
     <name>LoadingView</name>

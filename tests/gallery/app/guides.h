@@ -43,8 +43,8 @@ inline QList<Show> wholeDay(const QString &name, int minutes)
 {
     QList<Show> shows;
     for (int i = 0; i * minutes < 24 * 60; ++i) {
-        const QDateTime start = at(0, 0).addSecs(i * minutes * 60);
-        shows.append({ name + QString::number(i), start, start.addSecs(minutes * 60) });
+        const QDateTime start = at(0, 0).addSecs(qint64(i) * minutes * 60);
+        shows.append({ name + QString::number(i), start, start.addSecs(qint64(minutes) * 60) });
     }
     return shows;
 }

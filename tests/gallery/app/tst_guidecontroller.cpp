@@ -8,7 +8,6 @@
 #include <QtTest/qsignalspy.h>
 
 using gallery::GuideController;
-using gallery::ProgrammeModel;
 
 /*! What remote keys do to the choice of channel and programme. The test runs in UTC. */
 class tst_GuideController : public stbtest::TestCase
@@ -223,6 +222,15 @@ private Q_SLOTS:
         press({ Qt::Key_Backspace });
         QCOMPARE(leaving.count(), 1);
         QCOMPARE(m_guide->title(), "A40");
+    }
+
+    void theDayIsWrittenLongAndShort()
+    {
+        setUp();
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
+        QCOMPARE(m_guide->dayText(), "Wednesday, 4 March");
+        QCOMPARE(m_guide->shortDayText(), "Wed, 4 Mar");
+        QCOMPARE(m_guide->clockText(), "20:05");
     }
 
     void otherKeysAreNotTaken()
