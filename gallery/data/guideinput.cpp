@@ -119,7 +119,7 @@ public:
         char *next = in.data();
         auto left = size_t(in.size());
         while (left > 0) {
-            std::array<char, 4096> buffer{};
+            std::array<char, 4096> buffer {};
             char *to = buffer.data();
             size_t room = buffer.size();
             const bool done = iconv(m_iconv, &next, &left, &to, &room) != size_t(-1);
@@ -142,10 +142,11 @@ private:
     QByteArray m_rest;
 };
 
-GuideInput::GuideInput(QIODevice *source, const std::atomic<bool> *cancelled, std::atomic<double> *progress)
+GuideInput::GuideInput(QIODevice *source, const std::atomic<bool> *cancelled,
+                       std::function<void(double)> progress)
     : m_source(source)
     , m_cancelled(cancelled)
-    , m_progress(progress)
+    , m_progress(std::move(progress))
 {
     open(QIODevice::ReadOnly | QIODevice::Unbuffered);
 }
@@ -173,10 +174,20 @@ QByteArray GuideInput::readSource()
     m_sourceAtEnd = m_sourceAtEnd || size <= 0;
     block.truncate(std::max<qint64>(size, 0));
     m_sourceRead += block.size();
-    const qint64 total = m_source->isSequential() ? 0 : m_source->size();
-    if (m_progress && total > 0)
-        m_progress->store(std::min(1.0, double(m_sourceRead) / double(total)), std::memory_order_relaxed);
+    tellProgress();
     return block;
+}
+
+void GuideInput::tellProgress()
+{
+    const qint64 total = m_source->isSequential() ? 0 : m_source->size();
+    if (!m_progress || total <= 0)
+        return;
+    const int percent = int(std::min(m_sourceRead, total) * 100 / total);
+    if (percent <= m_percent)
+        return;
+    m_percent = percent;
+    m_progress(percent / 100.0);
 }
 
 // The next piece of plain text; empty at the end.

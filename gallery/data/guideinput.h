@@ -7,6 +7,7 @@
 #include <QtCore/qstring.h>
 
 #include <atomic>
+#include <functional>
 #include <memory>
 
 namespace gallery {
@@ -24,8 +25,8 @@ public:
     /*! The most that may be read between two calls of tokenSeen(), in bytes. */
     static constexpr qint64 maximumToken = 4 * 1024 * 1024;
 
-    /*! Reads from \a source, which is open and outlives this object. */
-    GuideInput(QIODevice *source, const std::atomic<bool> *cancelled, std::atomic<double> *progress);
+    /*! Reads from \a source, which is open and outlives this object; the rest as in GuideReadOptions. */
+    GuideInput(QIODevice *source, const std::atomic<bool> *cancelled, std::function<void(double)> progress);
     ~GuideInput() override;
 
     bool isSequential() const override { return true; }
@@ -52,16 +53,18 @@ private:
     bool fill();
     void chooseEncoding();
     void fail(const QString &failure);
+    void tellProgress();
 
     QIODevice *m_source = nullptr;
     const std::atomic<bool> *m_cancelled = nullptr;
-    std::atomic<double> *m_progress = nullptr;
+    std::function<void(double)> m_progress;
     std::unique_ptr<Gunzip> m_gunzip;
     std::unique_ptr<Recoder> m_recoder;
     QByteArray m_block;
     qsizetype m_position = 0;
     qint64 m_sourceRead = 0;
     qint64 m_sinceToken = 0;
+    int m_percent = 0;
     QString m_failure;
     bool m_started = false;
     bool m_sourceAtEnd = false;

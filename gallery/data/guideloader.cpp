@@ -1,47 +1,64 @@
 // SPDX-License-Identifier: MIT
 #include "gallery/data/guideloader.h"
 
-#include <mutex>
-#include <optional>
+#include <atomic>
 #include <thread>
 
 namespace gallery {
 
-namespace {
-
-// How often the loader looks at its thread: often enough for a smooth bar.
-constexpr int lookInterval = 40;
-
-} // namespace
-
-// What the loader and the reading thread share. The thread touches nothing else, and the loader looks in from
-// time to time, so that neither waits for the other.
+// A reading and its thread. The thread touches nothing of the loader: what it has to say waits in the event queue
+// of the loader's thread. It is joined before the loader goes, and the loader's queued calls go with the loader.
 struct GuideLoader::Job
 {
-    std::atomic<bool> cancelled = false;
-    std::atomic<double> progress = 0;
-    std::mutex mutex;
-    std::optional<GuideReport> report;
-    std::thread thread;
-
-    std::optional<GuideReport> takeReport()
+    Job(GuideLoader *loader, const QString &fileName, const QString &language)
+        : m_loader(loader)
+        , m_number(loader->m_number)
+        , m_thread([this, fileName, language] { run(fileName, language); })
     {
-        const std::lock_guard lock(mutex);
-        return std::exchange(report, std::nullopt);
     }
+    ~Job()
+    {
+        if (!m_thread.joinable())
+            return;
+        m_cancelled = true;
+        m_thread.join();
+    }
+    GuideReport takeReport()
+    {
+        m_thread.join();
+        return std::move(m_report);
+    }
+
+private:
     void run(const QString &fileName, const QString &language)
     {
-        GuideReport result = readGuide(fileName, { language, &cancelled, &progress });
-        const std::lock_guard lock(mutex);
-        report = std::move(result);
+        const auto tell = [this](double progress) {
+            post([loader = m_loader, progress] { loader->setProgress(progress); });
+        };
+        m_report = readGuide(fileName, { language, &m_cancelled, tell });
+        post([loader = m_loader] { loader->finish(); });
     }
+    // A call that comes up after its reading was stopped is dropped.
+    template <typename Call>
+    void post(const Call &call)
+    {
+        const auto checked = [loader = m_loader, number = m_number, call] {
+            if (loader->m_number == number)
+                call();
+        };
+        QMetaObject::invokeMethod(m_loader, checked, Qt::QueuedConnection);
+    }
+
+    GuideLoader *m_loader = nullptr;
+    quint64 m_number = 0;
+    std::atomic<bool> m_cancelled = false;
+    GuideReport m_report; // the thread's until it is joined
+    std::thread m_thread; // the last, because it uses the others from its start
 };
 
 GuideLoader::GuideLoader(QObject *parent)
     : QObject(parent)
 {
-    m_timer.setInterval(lookInterval);
-    connect(&m_timer, &QTimer::timeout, this, &GuideLoader::look);
 }
 
 GuideLoader::~GuideLoader()
@@ -54,9 +71,7 @@ void GuideLoader::load(const QString &fileName, const QString &language)
     const bool wasLoading = isLoading();
     stop();
     setProgress(0);
-    m_job = std::make_unique<Job>();
-    m_job->thread = std::thread(&Job::run, m_job.get(), fileName, language);
-    m_timer.start();
+    m_job = std::make_unique<Job>(this, fileName, language);
     if (!wasLoading)
         Q_EMIT loadingChanged();
 }
@@ -69,25 +84,17 @@ void GuideLoader::cancel()
     Q_EMIT loadingChanged();
 }
 
+// Ends the reading, if there is one, without a word about it.
 void GuideLoader::stop()
 {
-    m_timer.stop();
-    if (!m_job)
-        return;
-    m_job->cancelled = true;
-    m_job->thread.join();
     m_job.reset();
+    ++m_number;
 }
 
-void GuideLoader::look()
+void GuideLoader::finish()
 {
-    std::optional<GuideReport> report = m_job->takeReport();
-    if (!report) {
-        setProgress(m_job->progress.load(std::memory_order_relaxed));
-        return;
-    }
+    m_report = m_job->takeReport();
     stop();
-    m_report = std::move(*report);
     setProgress(1);
     Q_EMIT loadingChanged();
     Q_EMIT finished();

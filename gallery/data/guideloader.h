@@ -5,7 +5,6 @@
 #include "gallery/data/guidereader.h"
 
 #include <QtCore/qobject.h>
-#include <QtCore/qtimer.h>
 
 #include <memory>
 
@@ -21,7 +20,7 @@ class GuideLoader : public QObject
     Q_OBJECT
     /*! Whether a file is being read. */
     Q_PROPERTY(bool loading READ isLoading NOTIFY loadingChanged)
-    /*! How much of the file is read: 0 to 1, renewed a few times in a second while loading. */
+    /*! How much of the file is read: 0 to 1, in steps of a hundredth or more while loading. */
     Q_PROPERTY(double progress READ progress NOTIFY progressChanged)
     /*! Why the last file could not be read, or not to its end, as one line; empty when it could. */
     Q_PROPERTY(QString error READ error NOTIFY finished)
@@ -53,12 +52,12 @@ Q_SIGNALS:
 
 private:
     struct Job;
-    void look();
+    void finish();
     void stop();
     void setProgress(double progress);
 
     std::unique_ptr<Job> m_job;
-    QTimer m_timer;
+    quint64 m_number = 0; // of the present reading; a stopped one's number does not come again
     GuideReport m_report;
     double m_progress = 0;
 };

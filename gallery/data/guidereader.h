@@ -7,6 +7,7 @@
 #include <QtCore/qlist.h>
 
 #include <atomic>
+#include <functional>
 
 class QIODevice;
 
@@ -56,8 +57,11 @@ struct GuideReadOptions
     QString language;
     /*! Set to true in another thread to stop the reading soon; may be null. */
     const std::atomic<bool> *cancelled = nullptr;
-    /*! Receives how much is read, from 0 to 1; stays 0 for a source whose size is not known. May be null. */
-    std::atomic<double> *progress = nullptr;
+    /*!
+        Called in the reading thread for each further hundredth that is read, with how much it is by then, up to
+        1; never called for a source whose size is not known. May be empty.
+    */
+    std::function<void(double)> progress = nullptr;
 };
 
 /*! Reads the guide file \a fileName (XMLTV, plain or compressed with gzip). Blocks; for any thread. */

@@ -25,8 +25,9 @@ QString localized(const QJsonValue &texts, const QString &language)
 class Writer
 {
 public:
-    Writer(const QJsonObject &programmes, const QString &language, const TimeSpan &wanted, GuideBuilder *guide)
-        : m_programmes(programmes)
+    Writer(const QJsonObject &pattern, const QString &language, const TimeSpan &wanted, GuideBuilder *guide)
+        : m_programmes(pattern[QLatin1String("programmes")].toObject())
+        , m_categories(pattern[QLatin1String("categories")].toObject())
         , m_language(language)
         , m_wanted(wanted)
         , m_guide(guide)
@@ -42,7 +43,7 @@ public:
                               {} });
         const std::vector<Start> starts = startsOf(channel[QLatin1String("day")].toArray());
         for (size_t i = 0; i + 1 < starts.size(); ++i) {
-            const TimeSpan time{ starts[i].time, starts[i + 1].time };
+            const TimeSpan time { starts[i].time, starts[i + 1].time };
             if (time.stop > m_wanted.start && time.start < m_wanted.stop)
                 writeProgramme(id, time, starts[i]);
         }
@@ -88,11 +89,12 @@ private:
         if (!subtitles.isEmpty())
             programme.subTitle = localized(subtitles.at(start.episode % subtitles.size()), m_language);
         programme.description = localized(texts[QLatin1String("description")], m_language);
-        programme.category = texts[QLatin1String("category")].toString();
+        programme.category = localized(m_categories[texts[QLatin1String("category")].toString()], m_language);
         m_guide->addProgramme(programme);
     }
 
     QJsonObject m_programmes;
+    QJsonObject m_categories;
     QString m_language;
     TimeSpan m_wanted;
     GuideBuilder *m_guide = nullptr;
@@ -107,10 +109,9 @@ Guide ownGuide(const QDateTime &now, const QString &language)
         return {};
     const QJsonObject pattern = QJsonDocument::fromJson(file.readAll()).object();
     const QDate today = now.toLocalTime().date();
-    const TimeSpan wanted{ localDay(today.addDays(-1)).start, localDay(today.addDays(1)).stop };
+    const TimeSpan wanted { localDay(today.addDays(-1)).start, localDay(today.addDays(1)).stop };
     GuideBuilder builder;
-    Writer writer(pattern[QLatin1String("programmes")].toObject(), language.left(2).toLower(), wanted,
-                  &builder);
+    Writer writer(pattern, language.left(2).toLower(), wanted, &builder);
     const QJsonArray channels = pattern[QLatin1String("channels")].toArray();
     for (const QJsonValue &channel : channels)
         writer.writeChannel(channel);

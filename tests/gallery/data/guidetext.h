@@ -7,6 +7,7 @@
 #include <QtCore/qbuffer.h>
 #include <QtCore/qdatetime.h>
 
+#include <time.h>
 #include <zlib.h>
 
 namespace guidetext {
@@ -35,6 +36,13 @@ inline gallery::GuideReport read(QByteArray file, const QString &language = {})
 inline qint64 at(const char *iso)
 {
     return QDateTime::fromString(QLatin1String(iso), Qt::ISODate).toSecsSinceEpoch();
+}
+
+/*! Makes \a zone, as the TZ variable names it, the local one. */
+inline void setZone(const char *zone)
+{
+    qputenv("TZ", zone);
+    tzset();
 }
 
 /*! \a data compressed with gzip. */

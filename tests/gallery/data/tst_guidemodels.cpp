@@ -9,10 +9,9 @@
 #include <QtTest/qabstractitemmodeltester.h>
 #include <QtTest/qsignalspy.h>
 
-#include <ctime>
-
 using namespace gallery;
 using guidetext::at;
+using guidetext::setZone;
 
 class TestGuideModels : public stbtest::TestCase
 {
@@ -50,12 +49,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-void setZone(const char *zone)
-{
-    qputenv("TZ", zone);
-    tzset();
-}
 
 QDateTime time(const char *iso)
 {

@@ -3,10 +3,14 @@
 #include "guidetext.h"
 #include "testkit/testcase.h"
 
+#include <QtCore/qfile.h>
+#include <QtCore/qjsondocument.h>
+#include <QtCore/qjsonobject.h>
 #include <QtCore/qset.h>
 
 using namespace gallery;
 using guidetext::at;
+using guidetext::setZone;
 
 class TestOwnGuide : public stbtest::TestCase
 {
@@ -15,10 +19,14 @@ private Q_SLOTS:
     void everyMinuteOfThreeDaysHasItsProgramme_data();
     void everyMinuteOfThreeDaysHasItsProgramme();
     void itHasEightChannelsWithNumbersAndNames();
-    void everyProgrammeHasATitle();
+    void everyProgrammeOfTheTemplateIsOn();
+    void everyProgrammeHasItsTexts_data();
+    void everyProgrammeHasItsTexts();
     void titlesAreInTheLanguageAskedFor_data();
     void titlesAreInTheLanguageAskedFor();
     void everyTitleIsTranslated();
+    void everyDescriptionIsTranslated();
+    void everyCategoryIsTranslated();
     void theSameTimeGivesTheSameGuide();
     void cleanup();
 };
@@ -30,21 +38,38 @@ QDateTime local(const char *iso)
     return QDateTime::fromString(QLatin1String(iso), Qt::ISODate);
 }
 
-void setZone(const char *zone)
+QList<Programme> programmesIn(const QString &language)
 {
-    qputenv("TZ", zone);
-    tzset();
-}
-
-QSet<QString> titlesIn(const char *language)
-{
-    const Guide guide = ownGuide(local("2026-05-13T20:05:00"), QLatin1String(language));
-    QSet<QString> titles;
+    const Guide guide = ownGuide(local("2026-05-13T20:05:00"), language);
+    QList<Programme> programmes;
     for (int channel = 0; channel < guide.channelCount(); ++channel) {
         for (int i = 0; i < guide.programmeCount(channel); ++i)
-            titles.insert(guide.programme(channel, i).title);
+            programmes.append(guide.programme(channel, i));
     }
-    return titles;
+    return programmes;
+}
+
+// All titles, descriptions or categories in a language, each once.
+QSet<QString> textsIn(const char *language, QString Programme::*text)
+{
+    QSet<QString> texts;
+    const QList<Programme> programmes = programmesIn(QLatin1String(language));
+    for (const Programme &programme : programmes)
+        texts.insert(programme.*text);
+    return texts;
+}
+
+// The texts that two or more of the languages share.
+QSet<QString> sharedTexts(QString Programme::*text)
+{
+    QSet<QString> all;
+    QSet<QString> shared;
+    for (const char *language : { "en", "de", "ru", "ar" }) {
+        const QSet<QString> texts = textsIn(language, text);
+        shared += all & texts;
+        all += texts;
+    }
+    return shared;
 }
 
 } // namespace
@@ -100,10 +125,33 @@ void TestOwnGuide::itHasEightChannelsWithNumbersAndNames()
         QCOMPARE(guide.channel(channel).number, QString::number(channel + 1));
 }
 
-void TestOwnGuide::everyProgrammeHasATitle()
+void TestOwnGuide::everyProgrammeOfTheTemplateIsOn()
 {
+    QFile file(QStringLiteral(":/gallery/data/ownguide.json"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QJsonValue programmes = QJsonDocument::fromJson(file.readAll())[QLatin1String("programmes")];
+    QVERIFY(programmes.toObject().size() > 0);
+    QCOMPARE(textsIn("en", &Programme::title).size(), programmes.toObject().size());
+}
+
+void TestOwnGuide::everyProgrammeHasItsTexts_data()
+{
+    QTest::addColumn<QString>("language");
     for (const char *language : { "en", "de", "ru", "ar" })
-        QVERIFY(!titlesIn(language).contains(QString()));
+        QTest::newRow(language) << language;
+}
+
+void TestOwnGuide::everyProgrammeHasItsTexts()
+{
+    QFETCH(QString, language);
+    const QList<Programme> programmes = programmesIn(language);
+    QVERIFY(!programmes.isEmpty());
+    for (const Programme &programme : programmes) {
+        QVERIFY(!programme.title.isEmpty());
+        QVERIFY2(!programme.description.isEmpty(), qPrintable(programme.title));
+        QVERIFY2(programme.description != programme.title, qPrintable(programme.title));
+        QVERIFY2(!programme.category.isEmpty(), qPrintable(programme.title));
+    }
 }
 
 void TestOwnGuide::titlesAreInTheLanguageAskedFor_data()
@@ -141,11 +189,23 @@ void TestOwnGuide::titlesAreInTheLanguageAskedFor()
 
 void TestOwnGuide::everyTitleIsTranslated()
 {
-    const QSet<QString> english = titlesIn("en");
-    QCOMPARE(titlesIn("ru").intersect(english), QSet<QString>());
-    QCOMPARE(titlesIn("ar").intersect(english), QSet<QString>());
-    // The same word in both languages.
-    QCOMPARE(titlesIn("de").intersect(english), QSet<QString>({ QStringLiteral("Tennis") }));
+    // The same word in English and German.
+    QCOMPARE(sharedTexts(&Programme::title), QSet<QString>({ QStringLiteral("Tennis") }));
+}
+
+void TestOwnGuide::everyDescriptionIsTranslated()
+{
+    QCOMPARE(sharedTexts(&Programme::description), QSet<QString>());
+    const qsizetype titles = textsIn("en", &Programme::title).size();
+    for (const char *language : { "en", "de", "ru", "ar" })
+        QCOMPARE(textsIn(language, &Programme::description).size(), titles); // each has one of its own
+}
+
+void TestOwnGuide::everyCategoryIsTranslated()
+{
+    // The same words in English and German.
+    QCOMPARE(sharedTexts(&Programme::category),
+             QSet<QString>({ QStringLiteral("Film"), QStringLiteral("Quiz"), QStringLiteral("Sport") }));
 }
 
 void TestOwnGuide::theSameTimeGivesTheSameGuide()

@@ -5,6 +5,7 @@
 
 using gallery::parseXmltvTime;
 using guidetext::at;
+using guidetext::setZone;
 
 class TestXmltvTime : public stbtest::TestCase
 {
@@ -12,6 +13,7 @@ class TestXmltvTime : public stbtest::TestCase
 private Q_SLOTS:
     void aWrittenTimeIsThatInstant_data();
     void aWrittenTimeIsThatInstant();
+    void aTimeWithoutZoneIsUtcWhateverTheZoneHere();
     void anUnknownZoneNameIsUtcAndSaysSo();
     void whatIsNoTimeGivesNothing_data();
     void whatIsNoTimeGivesNothing();
@@ -75,6 +77,17 @@ void TestXmltvTime::aWrittenTimeIsThatInstant()
     QVERIFY(time);
     QCOMPARE(time->seconds, seconds);
     QVERIFY(time->zoneKnown);
+}
+
+void TestXmltvTime::aTimeWithoutZoneIsUtcWhateverTheZoneHere()
+{
+    setZone("EST-7:30");
+    const auto second = parseXmltvTime(u"20151126200543");
+    const auto day = parseXmltvTime(u"20151126");
+    setZone("UTC");
+    QVERIFY(second && day);
+    QCOMPARE(second->seconds, at("2015-11-26T20:05:43Z"));
+    QCOMPARE(day->seconds, at("2015-11-26T00:00:00Z"));
 }
 
 void TestXmltvTime::anUnknownZoneNameIsUtcAndSaysSo()
