@@ -5,6 +5,7 @@
 #include "gallery/data/guidebuilder.h"
 
 #include <QtCore/qlist.h>
+#include <QtCore/qtimezone.h>
 
 namespace guides {
 
@@ -13,7 +14,7 @@ inline const QDate day(2026, 3, 4);
 
 inline QDateTime at(int hour, int minute)
 {
-    return QDateTime(day, QTime(hour, minute), Qt::UTC);
+    return QDateTime(day, QTime(hour, minute), QTimeZone::utc());
 }
 
 struct Show

@@ -7,6 +7,7 @@
 
 #include <QtCore/qdir.h>
 #include <QtCore/qtemporarydir.h>
+#include <QtCore/qtimezone.h>
 
 using gallery::CommandLine;
 using gallery::ExitCode;
@@ -52,7 +53,7 @@ private Q_SLOTS:
                                          "--backend", "software", "--language", "ru" });
         QVERIFY2(!line.exitCode, qPrintable(line.message));
         QCOMPARE(line.options.guideFile, guide);
-        QCOMPARE(line.options.now, QDateTime(QDate(2015, 11, 26), QTime(20, 5), Qt::UTC));
+        QCOMPARE(line.options.now, QDateTime(QDate(2015, 11, 26), QTime(20, 5), QTimeZone::utc()));
         QCOMPARE(line.options.screen, "guide");
         QCOMPARE(line.options.keys, (QList { Qt::Key_Down, Qt::Key_Right }));
         QCOMPARE(line.options.screenshotsFolder, m_folder.filePath("shots"));
@@ -66,7 +67,7 @@ private Q_SLOTS:
     void anOffsetInTheTimeCounts()
     {
         const CommandLine line = parse({ "--now", "2015-11-26T20:05:00+02:00" });
-        QCOMPARE(line.options.now, QDateTime(QDate(2015, 11, 26), QTime(18, 5), Qt::UTC));
+        QCOMPARE(line.options.now, QDateTime(QDate(2015, 11, 26), QTime(18, 5), QTimeZone::utc()));
     }
 
     void aWrongArgumentIsAnErrorInOneLine_data()
