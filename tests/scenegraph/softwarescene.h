@@ -4,6 +4,8 @@
 
 #include "testkit/testcase.h"
 
+#include <stbcore/textrenderer.h>
+
 #include <QtGui/qpainter.h>
 #include <QtQuick/private/qquickitem_p.h>
 #include <QtQuick/private/qsgcontext_p.h>
@@ -48,6 +50,17 @@ inline QImage filled(const QSize &size, const QColor &color)
 {
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
     image.fill(color);
+    return image;
+}
+
+/*! What \a renderer draws in \a color, in an image of the text's own size. */
+inline QImage painted(stbcore::TextRenderer renderer, const QColor &color)
+{
+    renderer.relayout();
+    QImage image = filled(renderer.boundingRect().size(), Qt::transparent);
+    QPainter painter(&image);
+    stbcore::drawTextRenderer(painter, renderer, QPen(color));
+    painter.end();
     return image;
 }
 

@@ -28,17 +28,6 @@ stbcore::TextRenderer textRenderer(const QString &text)
     return renderer;
 }
 
-QImage painted(stbcore::TextRenderer renderer, const QColor &color)
-{
-    renderer.relayout();
-    QImage image(renderer.boundingRect().size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    stbcore::drawTextRenderer(painter, renderer, QPen(color));
-    painter.end();
-    return image;
-}
-
 QImage premultiplied(const QPixmap &pixmap)
 {
     return pixmap.toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);

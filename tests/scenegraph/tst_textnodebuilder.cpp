@@ -73,13 +73,7 @@ QImage expectedPicture(const QString &text, const QColor &color, int width = 214
     renderer.setTextAlignment(Qt::AlignLeft);
     renderer.setMaxTextWidth(width);
     renderer.setText(text);
-    renderer.relayout();
-    QImage image(renderer.boundingRect().size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    stbcore::drawTextRenderer(painter, renderer, QPen(color));
-    painter.end();
-    return image;
+    return painted(renderer, color);
 }
 
 } // namespace

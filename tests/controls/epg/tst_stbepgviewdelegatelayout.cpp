@@ -1,29 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include "epgstyles.h"
 #include "testkit/testcase.h"
 
 #include <controls/epg/stbepgviewdelegatelayout.h>
-#include <design_system/playerepgdelegatestyle.h>
 
 using Layout = StbEpgViewDelegateLayout;
 using Style = design_system::PlayerEpgDelegateStyle;
 
 namespace {
-
-// Every number odd and different: two swapped fields cannot pass.
-Style oddStyle()
-{
-    Style style;
-    style.titleSubtitleSpacing = 7;
-    style.previewRect = QRect(131, 53, 617, 211);
-    style.previewBottomSpacing = 19;
-    style.liveBadgeTopMargin = 3;
-    style.liveBadgeBottomSpacing = 11;
-    style.liveBadgeTopMarginExtended = 23;
-    style.liveBadgeBottomSpacingExtended = 29;
-    style.liveBadgePadding = 5;
-    style.liveBadgeIconSpacing = 9;
-    return style;
-}
 
 Layout::Content content(const QRect &startTime, const QRect &title, const QRect &subtitle)
 {
@@ -73,7 +57,7 @@ private Q_SLOTS:
         QFETCH(QRect, startTime);
         QFETCH(QRect, title);
         QFETCH(QRect, subtitle);
-        const Layout layout = Layout::compute(oddStyle(), content(startTime, title, subtitle));
+        const Layout layout = Layout::compute(oddEpgStyle(), content(startTime, title, subtitle));
         QCOMPARE(layout.startTime, startTime); // never moved
         QTEST(layout.title, "titleRect");
         QTEST(layout.subtitle, "subtitleRect");
@@ -126,7 +110,7 @@ private Q_SLOTS:
         live.live = true;
         live.liveIndicatorSize = icon;
         live.liveText = label;
-        const Layout layout = Layout::compute(oddStyle(), live);
+        const Layout layout = Layout::compute(oddEpgStyle(), live);
         QTEST(layout.liveBadge, "badgeRect");
         QTEST(layout.liveIndicator, "iconRect");
         QTEST(layout.liveText, "labelRect");
@@ -138,15 +122,15 @@ private Q_SLOTS:
     void aRowThatIsNotLiveIgnoresIconAndLabel()
     {
         Layout::Content plain = content(none, QRect(0, 0, 401, 33), none);
-        const Layout expected = Layout::compute(oddStyle(), plain);
+        const Layout expected = Layout::compute(oddEpgStyle(), plain);
         plain.liveIndicatorSize = QSize(17, 15);
         plain.liveText = QRect(0, 0, 71, 15);
-        QCOMPARE(Layout::compute(oddStyle(), plain), expected);
+        QCOMPARE(Layout::compute(oddEpgStyle(), plain), expected);
     }
 
     void sweepOverSizesKeepsThePartsApart()
     {
-        const Style style = oddStyle();
+        const Style style = oddEpgStyle();
         for (int label = 0; label < 40; ++label) {
             for (int icon = 0; icon < 40; ++icon) {
                 for (int title = 0; title < 40; title += 3) {
