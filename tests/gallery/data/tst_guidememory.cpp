@@ -4,6 +4,7 @@
 #include "testkit/testcase.h"
 
 #include <QtCore/qiodevice.h>
+#include <QtCore/qtimezone.h>
 
 using namespace gallery;
 
@@ -45,7 +46,7 @@ private:
             m_text += "<?xml version=\"1.0\"?>\n<tv>\n";
         const QByteArray number = QByteArray::number(m_programmes);
         const QDateTime start = QDateTime::fromSecsSinceEpoch(1448568000 + (m_programmes / 40) * 1800,
-                                                              Qt::UTC);
+                                                              QTimeZone::utc());
         const QByteArray channel = "channel" + QByteArray::number(m_programmes % 40);
         m_text += "<programme start=\"" + start.toString(QStringLiteral("yyyyMMddHHmmss")).toLatin1()
                   + " +0000\" channel=\"" + channel + "\"><title lang=\"en\">Title "
