@@ -29,16 +29,16 @@ void fillInStops(std::deque<ProgrammeRecord> &programmes)
     constexpr qint64 none = std::numeric_limits<qint64>::max();
     qint64 next = none;
     qint64 current = none;
-    for (auto it = programmes.rbegin(); it != programmes.rend(); ++it) {
-        if (it->start != current) {
+    std::for_each(programmes.rbegin(), programmes.rend(), [&](ProgrammeRecord &programme) {
+        if (programme.start != current) {
             next = current;
-            current = it->start;
+            current = programme.start;
         }
-        if (it->stop != ProgrammeRecord::noStop)
-            continue;
-        const int length = it->length > 0 ? it->length : GuideBuilder::defaultLength;
-        it->stop = next != none ? next : it->start + length;
-    }
+        if (programme.stop != ProgrammeRecord::noStop)
+            return;
+        const int length = programme.length > 0 ? programme.length : GuideBuilder::defaultLength;
+        programme.stop = next != none ? next : programme.start + length;
+    });
 }
 
 // Removes equal programmes and returns how many there were. Each is compared with the few kept before it

@@ -7,7 +7,7 @@
 #include <QtCore/qbuffer.h>
 #include <QtCore/qdatetime.h>
 
-#include <time.h>
+#include <ctime>
 #include <zlib.h>
 
 namespace guidetext {

@@ -13,6 +13,7 @@ class TestRealGuide : public stbtest::TestCase
 {
     Q_OBJECT
 private Q_SLOTS:
+    void initTestCase();
     void twoWeeksHaveAllChannelsAndProgrammes();
     void eachChannelHasItsProgrammes_data();
     void eachChannelHasItsProgrammes();
@@ -25,24 +26,33 @@ private Q_SLOTS:
 
 private:
     static QString file(const char *name);
+    static GuideReport read(const char *name);
 };
 
 QString TestRealGuide::file(const char *name)
 {
-    const QString folder = qEnvironmentVariable("STBUI_TEST_DATA");
-    return folder.isEmpty() ? QString() : folder + QLatin1String("/xmltv/") + QLatin1String(name);
+    return qEnvironmentVariable("STBUI_TEST_DATA") + QLatin1String("/xmltv/") + QLatin1String(name);
 }
 
-#define READ(report, name) \
-    if (file(name).isEmpty()) \
-        QSKIP("left out: STBUI_TEST_DATA does not name the folder with the real guides"); \
-    const GuideReport report = readGuide(file(name)); \
-    QCOMPARE(report.error, QString()); \
-    QCOMPARE(report.outcome, GuideReport::Outcome::Complete)
+GuideReport TestRealGuide::read(const char *name)
+{
+    GuideReport report = readGuide(file(name));
+    [&report] {
+        QCOMPARE(report.error, QString());
+        QCOMPARE(report.outcome, GuideReport::Outcome::Complete);
+    }();
+    return report;
+}
+
+void TestRealGuide::initTestCase()
+{
+    if (qEnvironmentVariableIsEmpty("STBUI_TEST_DATA"))
+        QSKIP("left out: STBUI_TEST_DATA does not name the folder with the real guides");
+}
 
 void TestRealGuide::twoWeeksHaveAllChannelsAndProgrammes()
 {
-    READ(report, "uk-two-weeks.xml");
+    const GuideReport report = read("uk-two-weeks.xml");
     QCOMPARE(report.guide.channelCount(), 5);
     QCOMPARE(report.guide.programmeCount(), 1964);
     QCOMPARE(report.problemCount, 0);
@@ -71,7 +81,7 @@ void TestRealGuide::eachChannelHasItsProgrammes_data()
 
 void TestRealGuide::eachChannelHasItsProgrammes()
 {
-    READ(report, "uk-two-weeks.xml");
+    const GuideReport report = read("uk-two-weeks.xml");
     QFETCH(QString, id);
     QFETCH(QString, name);
     const int channel = report.guide.channelIndex(id);
@@ -108,7 +118,7 @@ void TestRealGuide::whatIsOnAtFivePastEight_data()
 
 void TestRealGuide::whatIsOnAtFivePastEight()
 {
-    READ(report, "uk-two-weeks.xml");
+    const GuideReport report = read("uk-two-weeks.xml");
     QFETCH(QString, id);
     const int channel = report.guide.channelIndex(id);
     const int row = report.guide.programmeAt(channel, at("2015-11-26T20:05:00Z"));
@@ -122,7 +132,7 @@ void TestRealGuide::whatIsOnAtFivePastEight()
 
 void TestRealGuide::programmesOfNoLengthAreKept()
 {
-    READ(report, "uk-two-weeks.xml");
+    const GuideReport report = read("uk-two-weeks.xml");
     int empty = 0;
     for (int channel = 0; channel < report.guide.channelCount(); ++channel) {
         for (int i = 0; i < report.guide.programmeCount(channel); ++i) {
@@ -135,7 +145,7 @@ void TestRealGuide::programmesOfNoLengthAreKept()
 
 void TestRealGuide::theGuideReadsTheSameWhenCompressed()
 {
-    READ(plain, "uk-two-weeks.xml");
+    const GuideReport plain = read("uk-two-weeks.xml");
     QFile source(file("uk-two-weeks.xml"));
     QVERIFY(source.open(QIODevice::ReadOnly));
     const GuideReport packed = guidetext::read(guidetext::gzip(source.readAll()));
@@ -151,14 +161,14 @@ void TestRealGuide::theGuideReadsTheSameWhenCompressed()
 
 void TestRealGuide::aNumericNameIsTheChannelsNumber()
 {
-    READ(report, "uk-two-weeks.xml");
+    const GuideReport report = read("uk-two-weeks.xml");
     QCOMPARE(report.guide.channel(0).number, QStringLiteral("7-1"));
     QCOMPARE(report.guide.channel(1).number, QString());
 }
 
 void TestRealGuide::aFileWithAByteOrderMarkShowsItsProgramme()
 {
-    READ(report, "custom.xml");
+    const GuideReport report = read("custom.xml");
     QCOMPARE(report.guide.channelCount(), 1);
     const Channel channel = report.guide.channel(0);
     QCOMPARE(channel.id, QStringLiteral("EPG123.10108.schedulesdirect.org"));
