@@ -14,8 +14,9 @@ class QSGRenderContext;
 namespace qml_basic_plugin {
 
 /*!
-    One icon as one image node, in its own colours or tinted with one. Tinted icons are shared through
-    QPixmapCache.
+    One icon as one image node, in its own colours or tinted with one. Icons tinted on the GUI thread, which
+    under the software adaptation is every one, are shared through QPixmapCache; Qt keeps that cache from other
+    threads, and on a render thread of its own an icon is tinted anew.
 
     load() belongs to the GUI thread; colorize() and updateNode() to the paint update.
 */

@@ -89,7 +89,8 @@ bool renderTiled(QSGImageNode *node, const stbcore::TextRenderer &renderer, cons
     // The node lets go first: of a pixmap of the right size, so that painting does not copy it, and of another,
     // so that the device never holds the old and the new one at once.
     updateTextureInNode(node, QPixmap());
-    if (pixmap.size() != size) {
+    // Painting on a pixmap that others hold as well would turn it into an ordinary one behind their backs.
+    if (pixmap.size() != size || !pixmap.isDetached()) {
         pixmap = QPixmap();
         pixmap = platform->createTiledPixmap(size, [](QPainter &) {});
     }

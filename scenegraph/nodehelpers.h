@@ -38,7 +38,10 @@ class TextRenderer;
 */
 namespace qml_basic_plugin {
 
-/*! A new image node with \a texture. \a parent must not be null. The texture's owner stays who it was. */
+/*!
+    A new image node with \a texture. \a parent must not be null. The texture's owner stays who it was, until
+    updateTextureInNode() has to replace a texture that cannot take an image: the node owns the new one.
+*/
 QSGImageNode *createImageNode(QSGContext *context, QSGTexture *texture, QSGNode *parent, QSGNode *before);
 
 /*!
@@ -74,7 +77,7 @@ void updateTextureInNode(QSGImageNode *node, const QPixmap &pixmap);
     node's picture null.
 
     Where the platform offers tiled pixmaps, a pixmap of the right size is painted again in place: the node lets
-    go of it first, so that no copy is made. A platform that then hands out a null or wrongly sized pixmap gets
+    go of it first, so that no copy is made. One that others hold too is left to them, and a new one is made. A platform that then hands out a null or wrongly sized pixmap gets
     the plain way: a new premultiplied ARGB image.
 
     With a null \a node, or one without a texture, only \a pixmap is painted.

@@ -24,11 +24,14 @@ TextNodeBuilder::~TextNodeBuilder()
 void TextNodeBuilder::setupRenderer(const design_system::TextStyle &style, int maxWidth)
 {
     stbcore::TextRenderer &renderer = m_data->renderer;
+    const stbcore::TextRenderer former = renderer;
     renderer.setTextFont(style.font);
     renderer.setMaxLineCount(std::max(style.maxLineCount, 1));
     renderer.setTextAlignment(style.alignment);
     renderer.setMaxTextWidth(maxWidth);
-    markLayoutStale();
+    if (former.textFont() != renderer.textFont() || former.maxLineCount() != renderer.maxLineCount()
+        || former.textAlignment() != renderer.textAlignment() || former.maxTextWidth() != maxWidth)
+        m_data->painted = false;
 }
 
 bool TextNodeBuilder::setText(const QString &text)
@@ -36,7 +39,7 @@ bool TextNodeBuilder::setText(const QString &text)
     if (m_data.constData()->renderer.text() == text)
         return false;
     m_data->renderer.setText(text);
-    markLayoutStale();
+    m_data->painted = false;
     m_textChanged = true;
     return true;
 }
@@ -46,7 +49,7 @@ void TextNodeBuilder::setMaxTextWidth(int width)
     if (m_data.constData()->renderer.maxTextWidth() == width)
         return;
     m_data->renderer.setMaxTextWidth(width);
-    markLayoutStale();
+    m_data->painted = false;
 }
 
 void TextNodeBuilder::setMaxLineCount(int count)
@@ -55,7 +58,7 @@ void TextNodeBuilder::setMaxLineCount(int count)
     if (m_data.constData()->renderer.maxLineCount() == count)
         return;
     m_data->renderer.setMaxLineCount(count);
-    markLayoutStale();
+    m_data->painted = false;
 }
 
 void TextNodeBuilder::relayoutRenderer()
@@ -84,21 +87,24 @@ void TextNodeBuilder::updateNode(QSGImageNode *node, const QColor &color, bool *
     if (data->renderer.text().isEmpty() && !m_textChanged)
         return;
     const bool layoutStale = data->renderer.isNeedRelayout();
-    const bool colorChanged = data->color != color;
-    if (!layoutStale && !colorChanged && !m_textChanged && data->painted) {
-        if (textureIsNull(node) && !data->pixmap.isNull())
-            updateTextureInNode(node, data->pixmap);
+    if (!layoutStale && !m_textChanged && data->painted && data->color == color) {
+        // The picture may be another builder's work on a shared entry, which this node has not got yet.
+        updateTextureInNode(node, data->pixmap);
         return;
     }
 
     const QSize formerSize = data->pixmap.size();
+    const QSize shownSize = textureIsNull(node) ? QSize() : node->texture()->textureSize();
+    const bool layoutCurrent = !layoutStale && (!m_textChanged || data->color != color);
     m_data.detach();
     tryAttachingFromCache(m_data.constData()->renderer.text(), m_data.constData()->renderer.textFont(), color);
     if (isShared() && m_data.constData()->painted)
         updateTextureInNode(node, m_data.constData()->pixmap);
     else
-        paint(node, color, !layoutStale && colorChanged);
-    if (sizeChanged && m_data.constData()->pixmap.size() != formerSize)
+        paint(node, color, layoutCurrent);
+    // A layout taken over from the cache brought its pixmap along: what the node showed counts as well.
+    const QSize size = m_data.constData()->pixmap.size();
+    if (sizeChanged && (size != formerSize || (shownSize.isValid() && size != shownSize)))
         *sizeChanged = true;
     m_textChanged = false;
 }
@@ -111,19 +117,14 @@ void TextNodeBuilder::clear()
     m_textChanged = false;
 }
 
-// A changed text, font, width, line limit or alignment: the renderer knows which setter changed something.
-void TextNodeBuilder::markLayoutStale()
-{
-    if (m_data.constData()->renderer.isNeedRelayout() && m_data.constData()->painted)
-        m_data->painted = false;
-}
-
 void TextNodeBuilder::paint(QSGImageNode *node, const QColor &color, bool skipRelayout)
 {
     // An entry shared through the cache is painted in place, for all who share it; a copy would leave the others
     // with a picture of something else.
     Data *data = const_cast<Data *>(m_data.constData()); // NOLINT(cppcoreguidelines-pro-type-const-cast)
     renderTextToImageNodeTexture(node, data->renderer, color, data->pixmap, skipRelayout);
+    // An empty text whose pixmap was null already painted nothing; the node may still show the text before.
+    updateTextureInNode(node, data->pixmap);
     data->color = color;
     data->painted = true;
     tryPushToCache();

@@ -81,7 +81,7 @@ public:
                              QSGNode *before);
     /*!
         Brings the picture of \a node up to date. Sets \a sizeChanged, which may be null, to true when the
-        picture's size changed, and never to false. A text that is empty and did not change leaves the node
+        picture's size changed or is another than that of what the node showed, and never to false. A text that is empty and did not change leaves the node
         untouched.
     */
     void updateNode(QSGImageNode *node, const QColor &color, bool *sizeChanged);
@@ -93,7 +93,6 @@ private:
     using DataPointer = QSharedDataPointer<Data>;
 
     bool isShared() const { return m_data.constData()->ref.loadRelaxed() > 1; }
-    void markLayoutStale();
     void paint(QSGImageNode *node, const QColor &color, bool skipRelayout);
     bool tryAttachingFromCache(const QString &text, const QFont &font, const QColor &color);
     void tryPushToCache();

@@ -27,16 +27,17 @@ class StbEpgViewDelegate : public QQuickItem
 {
     Q_OBJECT
     /*!
-        The design. Not owned; one that is destroyed counts as null. The row takes the values over when it is
-        given a style object, and does not listen to later changes inside it. Null by default; resettable.
+        The design. Not owned; one that is destroyed counts as null. Fonts, line limits, alignments and text
+        widths are taken over when the row is given the style object, everything else whenever it lays out or
+        paints; it does not listen to changes inside the object. Null by default; resettable.
     */
     Q_PROPERTY(design_system::PlayerEpgDelegateQmlStyle *style READ style WRITE setStyle RESET resetStyle
                        NOTIFY styleChanged)
-    /*! The programme's title: the style's playable colour if live or playable, else the unavailable one. */
+    /*! The programme's title: the style's playable colour if live or playable, else the unavailable one. Empty by default. */
     Q_PROPERTY(QString itemTitle READ title WRITE setTitle NOTIFY titleChanged)
-    /*! The line below the title; takes the title's place when that is empty. */
+    /*! The line below the title; takes the title's place when that is empty. Empty by default. */
     Q_PROPERTY(QString itemSubtitle READ subtitle WRITE setSubtitle NOTIFY subtitleChanged)
-    /*! The start time as it is to be shown, for example "20:05". */
+    /*! The start time as it is to be shown, for example "20:05". Empty by default. */
     Q_PROPERTY(QString tvProgramStartTimeText READ startTimeText WRITE setStartTimeText NOTIFY
                        startTimeTextChanged)
     /*! Whether the programme is on air now: shows the live badge. Default false. */

@@ -197,6 +197,60 @@ private Q_SLOTS:
         QCOMPARE(icon.source(), path);
     }
 
+    void aTintTakenAwayCanComeBack()
+    {
+        IconNodeBuilder icon;
+        icon.load(write("a.png", filled({ 4, 4 }, Qt::white)), QColor());
+        icon.colorize(Qt::red);
+        icon.colorize(QColor());
+        icon.colorize(Qt::red);
+        QCOMPARE(pixel(icon.pixmap(), 0), QColor(Qt::red).rgba());
+        icon.colorize(QColor());
+        icon.colorize(QColor()); // untinted already: the file is not read again
+        const qint64 key = icon.pixmap().cacheKey();
+        icon.colorize(QColor());
+        QCOMPARE(icon.pixmap().cacheKey(), key);
+    }
+
+    void aTintIsLookedUpBeforeItIsMade()
+    {
+        const QString path = write("a.png", filled({ 4, 4 }, Qt::white));
+        IconNodeBuilder first;
+        IconNodeBuilder second;
+        const auto node = m_scene.imageNode();
+        for (IconNodeBuilder *icon : { &first, &second })
+            icon->load(path, QColor());
+        second.updateNode(node.get(), nullptr);
+        first.colorize(Qt::red);
+        second.colorize(Qt::red);
+        QCOMPARE(second.pixmap().cacheKey(), first.pixmap().cacheKey());
+        second.updateNode(node.get(), nullptr); // a hit is a change as well
+        QCOMPARE(shownPixmap(node.get()).cacheKey(), first.pixmap().cacheKey());
+    }
+
+    void aFileThatIsGoneGivesAnEmptyTintThatIsCached()
+    {
+        IconNodeBuilder icon;
+        const QString path = write("a.png", filled({ 4, 4 }, Qt::white));
+        icon.load(path, QColor());
+        QVERIFY(QFile::remove(path));
+        icon.colorize(Qt::red);
+        QVERIFY(icon.pixmap().isNull());
+        QPixmap cached(1, 1);
+        QVERIFY(QPixmapCache::find(path + "#ffff0000", &cached));
+        QVERIFY(cached.isNull());
+    }
+
+    void clearForgetsAChange()
+    {
+        IconNodeBuilder icon;
+        icon.load(write("a.png", filled({ 7, 5 }, Qt::white)), QColor());
+        icon.clear();
+        const auto node = m_scene.imageNode(filled({ 3, 3 }, Qt::red));
+        icon.updateNode(node.get(), nullptr);
+        QCOMPARE(shownPixmap(node.get()).size(), QSize(3, 3));
+    }
+
     void aTintOverATintStartsFromTheFile()
     {
         IconNodeBuilder icon;

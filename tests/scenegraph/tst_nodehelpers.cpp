@@ -39,6 +39,8 @@ class PictureItem : public QQuickItem
 public:
     PictureItem() { setFlag(ItemHasContents); }
 
+    bool plainTexture = false; // as other adaptations have
+
     void show(const QPixmap &pixmap, const QRect &rect)
     {
         m_pixmap = pixmap;
@@ -54,6 +56,8 @@ protected:
         if (!node)
             node = createEmptyImageNode(item->sceneGraphContext(), item->sceneGraphRenderContext(), nullptr,
                                         nullptr);
+        if (!oldNode && plainTexture)
+            node->setTexture(new QSGPlainTexture);
         updateTextureInNode(node, m_pixmap);
         placeImageNode(node, m_rect);
         return node;
@@ -175,6 +179,23 @@ private Q_SLOTS:
         QVERIFY(!textureIsNull(node.get()));
         updateTextureInNode(node.get(), QPixmap());
         QVERIFY(textureIsNull(node.get()));
+    }
+
+    void aPictureItemOfAnotherTextureKindIsNotDirtiedByTheSamePixmap()
+    {
+        stbtest::Stage stage(QSize(60, 50), Qt::darkGreen);
+        PictureItem item;
+        item.plainTexture = true;
+        item.setParentItem(stage.contentItem());
+        const QPixmap pixmap = QPixmap::fromImage(filled({ 8, 6 }, QColor(0, 0, 255, 100)));
+        item.show(pixmap, QRect(11, 13, 8, 6));
+        QVERIFY(!stage.renderFrame().isEmpty());
+        item.show(pixmap, QRect(11, 13, 8, 6));
+        QCOMPARE(stage.renderFrame(), QRegion());
+        item.show(QPixmap(), QRect(11, 13, 8, 6));
+        QVERIFY(!stage.renderFrame().isEmpty());
+        item.show(QPixmap(), QRect(11, 13, 8, 6));
+        QCOMPARE(stage.renderFrame(), QRegion());
     }
 
     void anUpdateThatChangesNothingPaintsNothing()

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "softwarescene.h"
 
+#include "testkit/fakeplatform.h"
+
 #include <design_system/textstyle.h>
 #include <scenegraph/textnodebuilder.h>
+#include <stbcore/textcounters.h>
 
 namespace qml_basic_plugin {
 
@@ -274,6 +277,72 @@ private Q_SLOTS:
                  expectedPicture("Evening news", color));
     }
 
+    void clearForgetsAChangedText()
+    {
+        Line line(m_scene, "Evening news");
+        line.update();
+        line.builder.setText(QString());
+        line.builder.clear();
+        line.update(); // an empty text that did not change
+        QVERIFY(!line.shown().isNull());
+    }
+
+    void aTextEmptiedAfterATakenOverLayoutShowsNothing()
+    {
+        Line other(m_scene, "Sports", true);
+        other.builder.relayoutRenderer();
+        Line line(m_scene, "Weather", true);
+        line.builder.relayoutRenderer();
+        line.update();
+        line.builder.setText("Sports");
+        line.builder.relayoutRenderer(); // takes over an entry that was never painted
+        line.builder.setText(QString());
+        line.builder.relayoutRenderer();
+        bool sizeChanged = false;
+        line.update(Qt::white, &sizeChanged);
+        QVERIFY(line.shown().isNull());
+        QVERIFY(sizeChanged);
+    }
+
+    void whatAnotherBuilderPaintedOnASharedEntryIsShownToo()
+    {
+        Line one(m_scene, "News", true);
+        Line two(m_scene, "News", true);
+        for (const int pixelSize : { 21, 33 }) {
+            for (Line *line : { &one, &two }) {
+                line->builder.setupRenderer(style(pixelSize), 2147483647);
+                line->builder.relayoutRenderer();
+            }
+            one.update(QColor()); // the colour of layout entries: both builders stay on one
+            two.update(QColor());
+            QCOMPARE(two.shown().cacheKey(), one.shown().cacheKey());
+        }
+    }
+
+    void aTiledPixmapThatTheCacheHoldsIsNotPaintedOver()
+    {
+        stbtest::TiledPixmaps platform;
+        Line line(m_scene, "News", true);
+        line.update(Qt::white);
+        const QImage white = line.shown().toImage().copy();
+        line.update(Qt::red);
+        QCOMPARE(platform.created().size(), 2);
+        QCOMPARE(platform.lastSetUpKey(), line.shown().cacheKey());
+        QCOMPARE(Access::cached(0)->pixmap.toImage(), white);
+    }
+
+    void aColourChangeAloneLaysNothingOut()
+    {
+        Line line(m_scene, "Evening news");
+        line.update();
+        line.builder.setMaxTextWidth(90);
+        line.builder.relayoutRenderer();
+        const quint64 layouts = stbcore::textLayoutCount();
+        line.update(Qt::white);
+        line.update(Qt::red);
+        QCOMPARE(stbcore::textLayoutCount(), layouts);
+    }
+
     void withoutCachingEveryBuilderPaintsItsOwnAndTheCacheStaysEmpty()
     {
         Line first(m_scene, "Evening news");
@@ -384,6 +453,8 @@ private Q_SLOTS:
         const qint64 key = other.shown().cacheKey();
         owner.update();
         QCOMPARE(owner.shown().cacheKey(), key);
+        QCOMPARE(Access::cachedTexts(),
+                 QStringList({ "Evening news", "Late film" })); // painted, not pushed again
     }
 
     void aSharedPictureIsNotTouchedByTheOthersChange()

@@ -60,6 +60,19 @@ private Q_SLOTS:
         QCOMPARE(shownPixmap(node.get()).toImage(), once);
     }
 
+    void theSameSizeKeepsThePixmapAndPaintsInPlace()
+    {
+        ThrobberNodeBuilder throbber;
+        const auto node = m_scene.imageNode();
+        throbber.updateNode(node.get(), { 24, 24 }, true);
+        // The upper half of a pixmap's key is its serial: a new pixmap has another, and so has the copy that painting
+        // makes of a pixmap which the node still holds.
+        const qint64 serial = shownPixmap(node.get()).cacheKey() >> 32;
+        throbber.updateNode(node.get(), { 24, 24 }, true);
+        throbber.updateNode(node.get(), { 24, 24 }, true);
+        QCOMPARE(shownPixmap(node.get()).cacheKey() >> 32, serial);
+    }
+
     void theSameSizeWithoutDrawingChangesNothing()
     {
         ThrobberNodeBuilder throbber;

@@ -344,6 +344,96 @@ private Q_SLOTS:
         QCOMPARE(height.count(), 2);
     }
 
+    void tvProgramIsFutureAsksForAFrame()
+    {
+        Scene scene;
+        scene.fill();
+        scene.stage.renderFrame();
+        QVERIFY(!scene.stage.wantsFrame());
+        scene.row.setFuture(true); // a derived row paints it
+        QVERIFY(scene.stage.wantsFrame());
+    }
+
+    void theSignalComesBeforeTheNewLayout()
+    {
+        Scene scene;
+        scene.row.setStyle(&scene.style);
+        qreal height = -1;
+        QString title;
+        connect(&scene.row, &StbEpgViewDelegate::titleChanged, &scene.row, [&] {
+            height = scene.row.height();
+            title = scene.row.title();
+        });
+        scene.row.setTitle("Evening news");
+        QCOMPARE(height, 0);
+        QCOMPARE(title, "Evening news");
+        QVERIFY(scene.row.height() > 0);
+    }
+
+    void theLiveLabelIsBoundedByThePreviewWidth()
+    {
+        Scene scene;
+        const NowInLive translator(
+                "A label that is much longer than any label of a badge ought to be in any language");
+        scene.fill();
+        scene.row.setLive(true);
+        scene.stage.renderFrame();
+        const qreal width = stbtest::childNodes(scene.children()[3].node)[0].rect.width();
+        QVERIFY(width > 300);
+        QVERIFY(width <= 417);
+    }
+
+    void aTextChangedTwiceInAFrameLeavesNothingBehind()
+    {
+        Scene scene;
+        scene.row.setStyle(&scene.style);
+        scene.row.setTitle("Evening news");
+        scene.stage.renderFrame();
+        const QImage without = scene.stage.picture();
+        scene.row.setSubtitle("Sports");
+        scene.row.setSubtitle("Weather");
+        scene.stage.renderFrame();
+        scene.row.setSubtitle("Sports");
+        scene.row.setSubtitle(QString());
+        scene.stage.renderFrame();
+        QCOMPARE(scene.stage.picture(), without);
+    }
+
+    void aHandlerMayChangeTheRowWhileItIsLaidOut()
+    {
+        Scene scene;
+        int changes = 0;
+        connect(&scene.row, &QQuickItem::heightChanged, &scene.row, [&] {
+            if (++changes == 1) {
+                scene.row.setSubtitle("Of the whole week");
+                scene.row.setWidth(550);
+            }
+        });
+        scene.fill();
+        scene.row.setSubtitle("Of the whole week");
+        scene.stage.renderFrame();
+        Scene fresh;
+        fresh.fill();
+        fresh.row.setSubtitle("Of the whole week");
+        fresh.row.setWidth(550);
+        fresh.stage.renderFrame();
+        QCOMPARE(scene.stage.picture(), fresh.stage.picture());
+        QCOMPARE(scene.row.height(), fresh.row.height());
+    }
+
+    void aStyleThatWasReplacedMayDieUnnoticed()
+    {
+        Scene scene;
+        auto former = std::make_unique<StyleObject>();
+        former->setStyle(otherEpgStyle());
+        scene.row.setStyle(former.get());
+        scene.row.setStyle(&scene.style);
+        QSignalSpy changed(&scene.row, &StbEpgViewDelegate::styleChanged);
+        former.reset();
+        QCOMPARE(changed.count(), 0);
+        QCOMPARE(scene.row.style(), &scene.style);
+    }
+
     void aWidthThatComesFromABindingMeasuresToo()
     {
         stbtest::QmlScene qml;
@@ -504,6 +594,7 @@ private Q_SLOTS:
         QCOMPARE(plain.size(), 4);
         QCOMPARE(plain[3].color, QColor(Qt::cyan));
         QCOMPARE(row.lastBaseNode(), plain[2].node);
+        QCOMPARE(row.titleAtFirst(), "unpainted"); // the hook comes before the texts are painted
         QCOMPARE(plain[1].rect.topLeft(), QPointF(131, 41));
 
         row.setLive(true);
@@ -633,6 +724,9 @@ private:
         void updateExtendedNodes(const Style &, QSGNode *lastBaseNode) override
         {
             m_lastBaseNode = lastBaseNode;
+            if (m_titleAtFirst.isNull())
+                m_titleAtFirst = stbtest::childNodes(lastBaseNode->parent())[1].pixmap.isNull() ? "unpainted"
+                                                                                                : "painted";
             if (lastBaseNode->nextSibling())
                 return;
             QSGRectangleNode *node = sceneGraphContext()->createRectangleNode();
@@ -641,6 +735,7 @@ private:
             lastBaseNode->parent()->appendChildNode(node);
         }
         QSGNode *m_lastBaseNode = nullptr;
+        QString m_titleAtFirst; // what the base's texts are when the hook is called
     };
     class ExtendedRow : public StbEpgViewDelegate
     {
@@ -649,10 +744,11 @@ private:
             : StbEpgViewDelegate(*new ExtendedRowPrivate, nullptr)
         {
         }
-        QSGNode *lastBaseNode()
-        {
-            return static_cast<ExtendedRowPrivate *>(QQuickItemPrivate::get(this))->m_lastBaseNode;
-        }
+        QSGNode *lastBaseNode() { return row()->m_lastBaseNode; }
+        QString titleAtFirst() { return row()->m_titleAtFirst; }
+
+    private:
+        ExtendedRowPrivate *row() { return static_cast<ExtendedRowPrivate *>(QQuickItemPrivate::get(this)); }
     };
 };
 
