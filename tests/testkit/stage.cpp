@@ -79,12 +79,11 @@ void Stage::setBackground(const QColor &background)
 
 QRegion Stage::renderFrame()
 {
+    // No beginFrame() and endFrame(): they belong to other adaptations, and from Qt 6.5 they say so.
     d->control.polishItems();
-    d->control.beginFrame();
     d->control.sync();
     d->requestsAtFrame = d->requests;
     d->control.render();
-    d->control.endFrame();
     d->painted = d->renderer()->flushRegion();
     return d->painted;
 }
@@ -103,10 +102,11 @@ QImage Stage::renderWhole()
 {
     QImage whole(d->picture.size(), d->picture.format());
     whole.fill(Qt::transparent);
+    // Another render target for the window would make Qt 6.8 paint the next frame in whole as well.
     d->renderer()->markDirty();
-    d->window.setRenderTarget(QQuickRenderTarget::fromPaintDevice(&whole));
+    d->renderer()->setCurrentPaintDevice(&whole);
     d->control.render();
-    d->window.setRenderTarget(QQuickRenderTarget::fromPaintDevice(&d->picture));
+    d->renderer()->setCurrentPaintDevice(nullptr);
     return whole;
 }
 

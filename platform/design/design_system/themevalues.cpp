@@ -132,9 +132,12 @@ QVariant readColor(const QJsonValue &json, const ValueContext &context)
 
 QVariant readAlignment(const QJsonValue &json, const ValueContext &)
 {
+    const QByteArray keys = json.toString().toUtf8();
+    if (keys.isEmpty()) // which later versions of Qt warn about
+        return {};
     bool known = false;
-    const int flags = QMetaEnum::fromType<Qt::Alignment>().keysToValue(json.toString().toUtf8(), &known);
-    return known && json.isString() ? QVariant::fromValue(Qt::Alignment(flags)) : QVariant();
+    const int flags = QMetaEnum::fromType<Qt::Alignment>().keysToValue(keys, &known);
+    return known ? QVariant::fromValue(Qt::Alignment(flags)) : QVariant();
 }
 
 QVariant readWeight(const QJsonValue &json, const ValueContext &)
