@@ -82,7 +82,7 @@ std::unique_ptr<QQuickItem> Form::create(const Programme &programme)
     auto *item = qobject_cast<QQuickItem *>(object.get());
     if (!item)
         qFatal("%s makes no item: %s", qPrintable(m_name), qPrintable(m_component.errorString()));
-    object.release();
+    static_cast<void>(object.release()); // the item is owned from here on
     return std::unique_ptr<QQuickItem>(item);
 }
 

@@ -43,11 +43,20 @@ std::optional<QByteArray> contentBehindMark(const QString &fileName)
     return file.readAll();
 }
 
+// Whether this is the null device, or one like it, that people name when they want no settings: some versions of
+// QSettings find it malformed.
+bool isDevice(const QString &fileName)
+{
+    std::error_code error;
+    return std::filesystem::is_character_file(QFileInfo(fileName).filesystemFilePath(), error);
+}
+
 // The file's settings, all read by now: QSettings parses a section when it is first asked for it, and only then
-// tells that it is malformed. Null when there is no place for the copy that a marked file needs.
+// tells that it is malformed. Null when there is no place for the copy that a marked file or a
+// device needs.
 std::unique_ptr<QSettings> settingsOf(const QString &fileName)
 {
-    const std::optional<QByteArray> content = contentBehindMark(fileName);
+    const std::optional<QByteArray> content = isDevice(fileName) ? QByteArray() : contentBehindMark(fileName);
     QTemporaryFile copy;
     if (content && !(copy.open() && copy.write(*content) == content->size() && copy.flush()))
         return nullptr;
@@ -133,7 +142,8 @@ QVariant IniConfigurationManager::storedValue(const QString &path) const
 // The status of a QSettings object never becomes good again, so that each attempt has an object of its own.
 bool IniConfigurationManager::writeUnsaved()
 {
-    if (!m_file || !removeMark(m_fileName))
+    // Writing would put an ordinary file in the place of a device.
+    if (!m_file || isDevice(m_fileName) || !removeMark(m_fileName))
         return false;
     auto file = std::make_unique<QSettings>(m_fileName, QSettings::IniFormat);
     file->allKeys();

@@ -119,7 +119,6 @@ quint64 textLayoutCount()
 
 ShapedText::ShapedText(const TextShapeKey &key)
     : m_key(key)
-    , m_leading(QFontMetricsF(key.font).leading())
     , m_rightToLeft(key.text.isRightToLeft())
 {
     qsizetype length = enoughCharacters(key);

@@ -36,8 +36,6 @@ public:
 
     const std::vector<QTextLine> &lines() const { return m_lines; }
     bool isRightToLeft() const { return m_rightToLeft; }
-    /*! Empty pixels between two lines, as the font wants it. */
-    qreal leading() const { return m_leading; }
     /*! The advance width of the widest line in whole pixels. */
     int width() const { return m_width; }
     /*! Whole pixels by which some line's ink leaves its advance box at the left and at the right. */
@@ -55,7 +53,6 @@ private:
     std::unique_ptr<QTextLayout> m_body;
     std::unique_ptr<QTextLayout> m_elided;
     std::vector<QTextLine> m_lines;
-    qreal m_leading = 0;
     int m_width = 0;
     int m_leftOverhang = 0;
     int m_rightOverhang = 0;

@@ -85,9 +85,9 @@ void TextRendererData::placeLines()
     const int width = std::min(shape->width() + shape->leftOverhang() + shape->rightOverhang(), maxTextWidth);
     const int left = std::min(shape->leftOverhang(), std::max(0, width - shape->width()));
     const qreal share = shareAtLeft(horizontalPlace(alignment), shape->isRightToLeft());
-    qreal bottom = -shape->leading();
+    qreal bottom = 0;
     for (const QTextLine &line : shape->lines()) {
-        const qreal top = std::ceil(bottom + shape->leading());
+        const qreal top = std::ceil(bottom);
         positions.emplace_back(left + std::floor((shape->width() - line.naturalTextWidth()) * share), top);
         bottom = top + line.height();
     }

@@ -14,7 +14,10 @@ inline QFont pixelFont(int pixelSize)
     return result;
 }
 
-/*! Every number odd, every colour another one: two swapped fields cannot pass. */
+/*!
+    Every number odd, every colour another one: two swapped fields cannot pass. The font sizes are such that all
+    versions of Qt put the base line on the same pixel: they round the ascent in different ways.
+*/
 inline design_system::PlayerEpgDelegateStyle oddEpgStyle()
 {
     design_system::PlayerEpgDelegateStyle style;
@@ -37,7 +40,7 @@ inline design_system::PlayerEpgDelegateStyle oddEpgStyle()
     style.titleTextStyle.font = pixelFont(29);
     style.titleTextStyle.maxLineCount = 2;
     style.titleTextStyle.color = QColor(2, 2, 2);
-    style.subtitleTextStyle.font = pixelFont(21);
+    style.subtitleTextStyle.font = pixelFont(17);
     style.subtitleTextStyle.color = QColor(91, 191, 111);
     style.subtitleTextStyle.maxLineCount = 1;
     style.liveStartTimeColor = QColor(241, 31, 51);

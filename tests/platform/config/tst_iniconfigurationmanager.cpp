@@ -9,6 +9,7 @@
 #include <QtCore/qtemporarydir.h>
 
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 
 using stbconfig::IniConfigurationManager;
 
@@ -274,6 +275,22 @@ private Q_SLOTS:
         IniConfigurationManager store(m_path);
         QVERIFY(store.setValue(QStringLiteral("UI"), QStringLiteral("theme"), QStringLiteral("a")));
         QCOMPARE(read(), QByteArray("[UI]\ntheme=a\n"));
+    }
+
+    void aDeviceIsNeverReplacedByAFile()
+    {
+        // A null device of the test's own, which no mistake can take away from the system.
+        m_path = m_folder->filePath(QStringLiteral("null"));
+        if (mknod(qPrintable(m_path), S_IFCHR | 0666, makedev(1, 3)) != 0)
+            QSKIP("only root may make a device node");
+        IniConfigurationManager store(m_path);
+        expectWarning(QStringLiteral("cannot be written"));
+        QVERIFY(!store.setValue(QStringLiteral("UI"), QStringLiteral("theme"), QStringLiteral("a")));
+        QCOMPARE(store.value(QStringLiteral("UI"), QStringLiteral("theme"), 43),
+                 QVariant(QStringLiteral("a")));
+        struct stat status = {};
+        QCOMPARE(stat(qPrintable(m_path), &status), 0);
+        QVERIFY(S_ISCHR(status.st_mode));
     }
 
     void aFailedWriteIsOneWarningAndTheValueIsKept()

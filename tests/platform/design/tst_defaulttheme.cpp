@@ -20,7 +20,8 @@ double linear(double channel)
 
 double luminance(const QColor &c)
 {
-    return 0.2126 * linear(c.redF()) + 0.7152 * linear(c.greenF()) + 0.0722 * linear(c.blueF());
+    return 0.2126 * linear(double(c.redF())) + 0.7152 * linear(double(c.greenF()))
+           + 0.0722 * linear(double(c.blueF()));
 }
 
 // As the web's accessibility guidelines define it, for opaque colours.
