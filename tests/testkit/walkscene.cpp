@@ -51,7 +51,7 @@ WalkBackdrop::WalkBackdrop(Stage &stage)
     : QQuickItem(stage.contentItem())
 {
     setFlag(ItemHasContents);
-    setSize(QSizeF(stage.size().width() / 2, stage.size().height()));
+    setSize(QSizeF(QSize(stage.size().width() / 2, stage.size().height())));
 }
 
 QSGNode *WalkBackdrop::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *)
