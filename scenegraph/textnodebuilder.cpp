@@ -23,15 +23,15 @@ TextNodeBuilder::~TextNodeBuilder()
 
 void TextNodeBuilder::setupRenderer(const design_system::TextStyle &style, int maxWidth)
 {
+    const int maxLines = std::max(style.maxLineCount, 1);
     stbcore::TextRenderer &renderer = m_data->renderer;
-    const stbcore::TextRenderer former = renderer;
+    if (renderer.textFont() != style.font || renderer.maxLineCount() != maxLines
+        || renderer.textAlignment() != style.alignment || renderer.maxTextWidth() != maxWidth)
+        m_data->painted = false;
     renderer.setTextFont(style.font);
-    renderer.setMaxLineCount(std::max(style.maxLineCount, 1));
+    renderer.setMaxLineCount(maxLines);
     renderer.setTextAlignment(style.alignment);
     renderer.setMaxTextWidth(maxWidth);
-    if (former.textFont() != renderer.textFont() || former.maxLineCount() != renderer.maxLineCount()
-        || former.textAlignment() != renderer.textAlignment() || former.maxTextWidth() != maxWidth)
-        m_data->painted = false;
 }
 
 bool TextNodeBuilder::setText(const QString &text)

@@ -7,7 +7,7 @@
 #include <QtCore/qstringlist.h>
 #include <QtGui/qimage.h>
 
-/* What the tests of the text renderer share: texts laid out and painted by it and by Qt alone. */
+/* What the tests of this room share: pictures and their ink, texts laid out and painted by us and by Qt alone. */
 namespace textpictures {
 
 using stbcore::TextRenderer;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "testkit/testcase.h"
+#include "textpictures.h"
 
 #include <stbcore/throbberrenderer.h>
 
@@ -12,6 +13,8 @@
 #include <cmath>
 
 using stbcore::ThrobberRenderer;
+using textpictures::blank;
+using textpictures::inkOf;
 
 namespace {
 
@@ -31,23 +34,10 @@ void passOneFrame(ThrobberRenderer &throbber)
 
 QImage painted(ThrobberRenderer &throbber, QSize size = QSize(60, 60))
 {
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
+    QImage image = blank(size);
     QPainter painter(&image);
     throbber.draw(painter);
     return image;
-}
-
-QRect inkOf(const QImage &image)
-{
-    QRect ink;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (qAlpha(image.pixel(x, y)) > 0)
-                ink |= QRect(x, y, 1, 1);
-        }
-    }
-    return ink;
 }
 
 int inkedPixels(const QImage &image)
