@@ -35,6 +35,7 @@ qt_add_qml_module(${module}
     SOURCES
         controls/epg/stbepgviewdelegate.cpp controls/epg/stbepgviewdelegate.h controls/epg/stbepgviewdelegate_p.h
         controls/epg/stbepgviewdelegatelayout.cpp controls/epg/stbepgviewdelegatelayout.h
+        controls/propertysetters.h
         controls/stylereference.h
         plugin/qmlsettings.cpp plugin/qmlsettings.h
         plugin/versionguard.cpp plugin/versionguard.h

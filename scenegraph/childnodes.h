@@ -12,8 +12,8 @@ namespace qml_basic_plugin {
     Walks the children that a class keeps under a root in a fixed order, some of them absent: finds each by its
     place, makes it there when it is wanted and missing, and removes and deletes it when it is not wanted.
 
-    Which children are there is told by one presence flag each; they count only while the root is the one they
-    were set for. Children behind the last one walked over, those of a derived class, are left alone, and
+    Which children are there is told by one presence flag each. A flag that outlived its root does no harm: where
+    no node follows, the child is made anew. Children behind the last one walked over, those of a derived class, are left alone, and
     whatever is made later is put in its own place before them.
 
     \code
@@ -28,6 +28,17 @@ public:
     explicit ChildNodes(QSGNode *root)
         : m_root(root)
         , m_next(root->firstChild())
+    {
+    }
+
+    /*!
+        Walks the children of a derived class: those behind \a after, the last one that its base class keeps.
+        \a root is the parent of \a after.
+    */
+    ChildNodes(QSGNode *root, QSGNode *after)
+        : m_root(root)
+        , m_next(after->nextSibling())
+        , m_last(after)
     {
     }
 

@@ -2,6 +2,7 @@
 #include "controls/epg/stbepgviewdelegate_p.h"
 
 #include "controls/epg/stbepgviewdelegatelayout.h"
+#include "controls/propertysetters.h"
 #include "scenegraph/childnodes.h"
 #include "scenegraph/nodehelpers.h"
 
@@ -99,7 +100,7 @@ bool StbEpgViewDelegate::isLive() const
 void StbEpgViewDelegate::setLive(bool live)
 {
     Q_D(StbEpgViewDelegate);
-    if (d->setFlag(d->m_live, live, &StbEpgViewDelegate::liveChanged))
+    if (assign(this, d->m_live, live, &StbEpgViewDelegate::liveChanged))
         d->relayout();
 }
 
@@ -112,7 +113,7 @@ bool StbEpgViewDelegate::isFuture() const
 void StbEpgViewDelegate::setFuture(bool future)
 {
     Q_D(StbEpgViewDelegate);
-    if (d->setFlag(d->m_future, future, &StbEpgViewDelegate::futureChanged))
+    if (assign(this, d->m_future, future, &StbEpgViewDelegate::futureChanged))
         update();
 }
 
@@ -125,7 +126,7 @@ bool StbEpgViewDelegate::isPlayable() const
 void StbEpgViewDelegate::setPlayable(bool playable)
 {
     Q_D(StbEpgViewDelegate);
-    if (d->setFlag(d->m_playable, playable, &StbEpgViewDelegate::playableChanged))
+    if (assign(this, d->m_playable, playable, &StbEpgViewDelegate::playableChanged))
         update();
 }
 
@@ -139,20 +140,8 @@ void StbEpgViewDelegate::componentComplete()
 void StbEpgViewDelegatePrivate::setText(TextNodeBuilder &builder, const QString &text, TextSignal changed)
 {
     Q_Q(StbEpgViewDelegate);
-    if (!builder.setText(text))
-        return;
-    Q_EMIT(q->*changed)();
-    relayout();
-}
-
-bool StbEpgViewDelegatePrivate::setFlag(bool &flag, bool value, TextSignal changed)
-{
-    Q_Q(StbEpgViewDelegate);
-    if (flag == value)
-        return false;
-    flag = value;
-    Q_EMIT(q->*changed)();
-    return true;
+    if (assignText(q, builder, text, changed))
+        relayout();
 }
 
 void StbEpgViewDelegatePrivate::loadIndicatorImage()

@@ -34,7 +34,6 @@ public:
     virtual void updateExtendedNodes(const Style &style, QSGNode *lastBaseNode);
 
     void setText(qml_basic_plugin::TextNodeBuilder &builder, const QString &text, TextSignal changed);
-    bool setFlag(bool &flag, bool value, TextSignal changed);
     void setUpRenderers(const Style &style);
     QSGNode *createRoot();
     QSGRectangleNode *updateBadge(qml_basic_plugin::ChildNodes &children, const Style &style);

@@ -115,6 +115,36 @@ private Q_SLOTS:
         QCOMPARE(children.next<NamedNode>()->name, '2');
         QCOMPARE(childNames(&root), "1a2");
     }
+
+    void aDerivedClassWalksBehindTheLastNodeOfItsBase()
+    {
+        NamedNode root('r');
+        root.appendChildNode(new NamedNode('1'));
+        root.appendChildNode(new NamedNode('2'));
+        bool a = false;
+        bool b = false;
+        ChildNodes none(&root, root.lastChild());
+        QCOMPARE(none.last(), root.lastChild());
+        none.place<NamedNode>(true, b, maker('b'));
+        ChildNodes children(&root, root.childAtIndex(1));
+        children.place<NamedNode>(true, a, maker('a'));
+        children.place<NamedNode>(true, b, maker('b'));
+        QCOMPARE(childNames(&root), "12ab");
+        QCOMPARE(children.last(), root.lastChild());
+    }
+
+    void flagsThatOutlivedTheirRootDoNoHarm()
+    {
+        bool a = true;
+        bool b = true;
+        NamedNode root('r');
+        ChildNodes children(&root);
+        QVERIFY(!children.place<NamedNode>(false, a, maker('a')));
+        QVERIFY(children.place<NamedNode>(true, b, maker('b')));
+        QVERIFY(children.created());
+        QVERIFY(!a);
+        QCOMPARE(childNames(&root), "b");
+    }
 };
 
 STB_TEST_MAIN(tst_ChildNodes)
