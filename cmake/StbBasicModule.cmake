@@ -37,11 +37,14 @@ qt_add_qml_module(${module}
         controls/epg/stbepgviewdelegatelayout.cpp controls/epg/stbepgviewdelegatelayout.h
         controls/propertysetters.h
         controls/stylereference.h
+        controls/tiles/stbexpandabletile.cpp controls/tiles/stbexpandabletile.h
+        controls/tiles/stbexpandabletile_p.h
         plugin/qmlsettings.cpp plugin/qmlsettings.h
         plugin/versionguard.cpp plugin/versionguard.h
         scenegraph/childnodes.h
         scenegraph/iconnodebuilder.cpp scenegraph/iconnodebuilder.h
         scenegraph/nodehelpers.cpp scenegraph/nodehelpers.h
+        scenegraph/picture.cpp scenegraph/picture.h
         scenegraph/qtcompat_p.h
         scenegraph/textnodebuilder.cpp scenegraph/textnodebuilder.h
         scenegraph/throbbernodebuilder.cpp scenegraph/throbbernodebuilder.h

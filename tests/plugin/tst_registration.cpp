@@ -90,6 +90,7 @@ private Q_SLOTS:
         while (match.hasNext())
             registered += match.next().captured(1);
         QVERIFY(registered.contains("StbEpgViewDelegate"));
+        QVERIFY(registered.contains("StbExpandableTile"));
         QVERIFY(registered.contains("qml::QmlSettings"));
         // The anonymous base stands behind the first element that derives from it.
         QCOMPARE(registered.indexOf("QQuickItem"), 1);
@@ -103,9 +104,11 @@ private Q_SLOTS:
     {
         stbtest::QmlScene scene;
         QVERIFY(scene.createItem("import Stbui.UI.Qml.Controls.Basic\nEpgViewDelegate {}"));
+        QVERIFY(scene.createItem("import Stbui.UI.Qml.Controls.Basic\nExpandableTile {}"));
         for (const char *name : { "StbEpgViewDelegate*", "QQmlListProperty<StbEpgViewDelegate>",
                                   "QQuickItem*", "QQmlListProperty<QQuickItem>", "qml::QmlSettings*",
-                                  "design_system::PlayerEpgDelegateQmlStyle*" })
+                                  "design_system::PlayerEpgDelegateQmlStyle*", "StbExpandableTile*",
+                                  "QQmlListProperty<StbExpandableTile>", "design_system::TileQmlStyle*" })
             QVERIFY2(QMetaType::fromName(name).isValid(), name);
     }
 
