@@ -33,6 +33,10 @@ qt_add_qml_module(${module}
         Stbui.UI.Qml.Design
         Stbui.UI.Qml.Controls.Generic
     SOURCES
+        controls/buttons/stbbutton.cpp controls/buttons/stbbutton.h controls/buttons/stbbutton_p.h
+        controls/buttons/stbbuttonlayout.cpp controls/buttons/stbbuttonlayout.h
+        controls/buttons/stbbuttonwithcheckindicator.cpp controls/buttons/stbbuttonwithcheckindicator.h
+        controls/buttons/stbbuttonwithcheckindicator_p.h
         controls/epg/stbepgviewdelegate.cpp controls/epg/stbepgviewdelegate.h controls/epg/stbepgviewdelegate_p.h
         controls/epg/stbepgviewdelegatelayout.cpp controls/epg/stbepgviewdelegatelayout.h
         controls/propertysetters.h

@@ -52,6 +52,42 @@ private Q_SLOTS:
         QCOMPARE(row->property("tvProgramIsFuture"), QVariant(true));
     }
 
+    void everyElementHasItsName_data()
+    {
+        QTest::addColumn<QString>("className");
+        QTest::newRow("Button") << "StbButton";
+        QTest::newRow("ButtonWithCheckIndicator") << "StbButtonWithCheckIndicator";
+        QTest::newRow("EpgViewDelegate") << "StbEpgViewDelegate";
+        QTest::newRow("ExpandableTile") << "StbExpandableTile";
+    }
+    void everyElementHasItsName()
+    {
+        QFETCH(QString, className);
+        stbtest::QmlScene scene;
+        const auto item = scene.createItem(QStringLiteral("import Stbui.UI.Qml.Controls.Basic\n%1 {}")
+                                                   .arg(QLatin1String(QTest::currentDataTag())));
+        QVERIFY(item);
+        QCOMPARE(QLatin1String(item->metaObject()->className()), className);
+    }
+
+    void everyComponentStandsInTheResourcesAndResolves_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::newRow("PrimaryButton") << "qml/PrimaryButton.qml";
+        QTest::newRow("StandardButton") << "qml/StandardButton.qml";
+        QTest::newRow("PlayerButton") << "qml/Experimental/PlayerButton.qml";
+    }
+    void everyComponentStandsInTheResourcesAndResolves()
+    {
+        QFETCH(QString, file);
+        QVERIFY(QFile::exists(":/Stbui/UI/Qml/Controls/Basic/" + file));
+        stbtest::MemoryConfiguration store;
+        stbtest::QmlScene scene;
+        const auto item = scene.createItem(QStringLiteral("import Stbui.UI.Qml.Controls.Basic\n%1 {}")
+                                                   .arg(QLatin1String(QTest::currentDataTag())));
+        QVERIFY(item);
+    }
+
     void anotherMinorVersionOrNameDoesNotExist_data()
     {
         QTest::addColumn<QString>("text");
@@ -89,9 +125,9 @@ private Q_SLOTS:
         auto match = registration.globalMatch(read(STBTEST_REGISTRATIONS));
         while (match.hasNext())
             registered += match.next().captured(1);
-        QVERIFY(registered.contains("StbEpgViewDelegate"));
-        QVERIFY(registered.contains("StbExpandableTile"));
-        QVERIFY(registered.contains("qml::QmlSettings"));
+        for (const char *name : { "StbButton", "StbButtonWithCheckIndicator", "StbEpgViewDelegate",
+                                  "StbExpandableTile", "qml::QmlSettings" })
+            QVERIFY2(registered.contains(QLatin1String(name)), name);
         // The anonymous base stands behind the first element that derives from it.
         QCOMPARE(registered.indexOf("QQuickItem"), 1);
         registered.removeOne("QQuickItem");
@@ -105,10 +141,13 @@ private Q_SLOTS:
         stbtest::QmlScene scene;
         QVERIFY(scene.createItem("import Stbui.UI.Qml.Controls.Basic\nEpgViewDelegate {}"));
         QVERIFY(scene.createItem("import Stbui.UI.Qml.Controls.Basic\nExpandableTile {}"));
-        for (const char *name : { "StbEpgViewDelegate*", "QQmlListProperty<StbEpgViewDelegate>",
-                                  "QQuickItem*", "QQmlListProperty<QQuickItem>", "qml::QmlSettings*",
-                                  "design_system::PlayerEpgDelegateQmlStyle*", "StbExpandableTile*",
-                                  "QQmlListProperty<StbExpandableTile>", "design_system::TileQmlStyle*" })
+        for (const char *name :
+             { "StbButton*", "QQmlListProperty<StbButton>", "StbButtonWithCheckIndicator*",
+               "QQmlListProperty<StbButtonWithCheckIndicator>", "design_system::ButtonQmlStyle*",
+               "StbEpgViewDelegate*", "QQmlListProperty<StbEpgViewDelegate>", "QQuickItem*",
+               "QQmlListProperty<QQuickItem>", "qml::QmlSettings*",
+               "design_system::PlayerEpgDelegateQmlStyle*", "StbExpandableTile*",
+               "QQmlListProperty<StbExpandableTile>", "design_system::TileQmlStyle*" })
             QVERIFY2(QMetaType::fromName(name).isValid(), name);
     }
 

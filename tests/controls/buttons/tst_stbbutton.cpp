@@ -1,0 +1,420 @@
+// SPDX-License-Identifier: MIT
+#include "buttonscene.h"
+#include "testkit/counters.h"
+#include "testkit/qmlscene.h"
+#include "testkit/testcase.h"
+
+#include <controls/buttons/stbbutton.h>
+#include <controls/buttons/stbbuttonwithcheckindicator.h>
+
+#include <QtCore/qmetaobject.h>
+#include <QtTest/qsignalspy.h>
+
+using Scene = ButtonScene<StbButton>;
+using StyleObject = design_system::ButtonQmlStyle;
+
+// What the properties mean: values, signals, sizes, and when texts are laid out.
+class tst_StbButton : public stbtest::TestCase
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void aFreshButtonHasTheDefaults()
+    {
+        const StbButton button;
+        QVERIFY(!button.style());
+        QVERIFY(button.leftIconSource().isEmpty());
+        QVERIFY(button.rightIconSource().isEmpty());
+        QVERIFY(button.titleText().isEmpty());
+        QVERIFY(button.subtitleText().isEmpty());
+        QVERIFY(!button.isFocused());
+        QVERIFY(!button.isChecked());
+        QVERIFY(!button.isCheckable());
+        QVERIFY(button.isFixedWidth()); // although nobody said so
+        QVERIFY(!button.isThrobberVisible());
+        QVERIFY(!button.forceTitleColor());
+        QVERIFY(!button.titleForcedColor().isValid());
+        QCOMPARE(button.leftPadding(), 0);
+        QCOMPARE(button.rightPadding(), 0);
+        QCOMPARE(button.roundingRadius(), 0);
+        QVERIFY(button.flags() & QQuickItem::ItemHasContents);
+        QCOMPARE(button.implicitWidth(), 0);
+        QCOMPARE(button.implicitHeight(), 0);
+    }
+
+    void everyPropertyStoresAndSignalsOnce_data()
+    {
+        QTest::addColumn<QByteArray>("property");
+        QTest::addColumn<QByteArray>("signal");
+        QTest::addColumn<QVariant>("value");
+        const auto row = [](const char *property, const char *signal, const QVariant &value) {
+            QTest::newRow(property) << QByteArray(property) << QByteArray(signal) << value;
+        };
+        row("leftIconSource", "leftIconSourceChanged", ":/icons/left.png");
+        row("rightIconSource", "rightIconSourceChanged", ":/icons/right.png");
+        row("titleText", "titleChanged", "a");
+        row("subtitleText", "subtitleChanged", "b");
+        row("focused", "focusedChanged", true);
+        row("checked", "checkedChanged", true);
+        row("isFixedWidth", "fixedWidthChanged", false);
+        row("throbberVisible", "throbberVisibleChanged", true);
+        row("forceTitleColor", "forceTitleColorChanged", true);
+        row("titleForcedColor", "titleForcedColorChanged", QColor(1, 2, 3));
+        row("leftPadding", "leftPaddingChanged", 1.5);
+        row("rightPadding", "rightPaddingChanged", 2.5);
+    }
+    void everyPropertyStoresAndSignalsOnce()
+    {
+        QFETCH(QByteArray, property);
+        QFETCH(QByteArray, signal);
+        QFETCH(QVariant, value);
+        Scene scene;
+        scene.button.setStyle(&scene.style);
+        const QMetaObject *meta = scene.button.metaObject();
+        QCOMPARE(meta->property(meta->indexOfProperty(property)).notifySignal().name(), signal);
+        const auto spies = spiesOf(scene.button);
+        QVERIFY(scene.button.setProperty(property, value));
+        QCOMPARE(emitted(spies), QByteArrayList { signal });
+        QCOMPARE(scene.button.property(property), value);
+        QVERIFY(scene.button.setProperty(property, value));
+        QCOMPARE(emitted(spies), QByteArrayList { signal });
+    }
+
+    void theStyleIsStoredSignalledAndResettable()
+    {
+        Scene scene;
+        QSignalSpy changed(&scene.button, &StbButton::styleChanged);
+        scene.button.setStyle(&scene.style);
+        scene.button.setStyle(&scene.style);
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(scene.button.style(), &scene.style);
+        const QMetaObject *meta = scene.button.metaObject();
+        QVERIFY(meta->property(meta->indexOfProperty("style")).reset(&scene.button));
+        QCOMPARE(changed.count(), 2);
+        QVERIFY(!scene.button.style());
+    }
+
+    void aDestroyedStyleCountsAsNull()
+    {
+        Scene scene;
+        auto style = std::make_unique<StyleObject>();
+        style->setStyle(oddButtonStyle());
+        scene.fill();
+        scene.button.setStyle(style.get());
+        scene.stage.renderFrame();
+        QVERIFY(stbtest::paintNode(&scene.button));
+        QSignalSpy changed(&scene.button, &StbButton::styleChanged);
+        style.reset();
+        QVERIFY(!scene.button.style());
+        QCOMPARE(changed.count(), 1);
+        QVERIFY(scene.stage.wantsFrame());
+        scene.stage.renderFrame();
+        QVERIFY(!stbtest::paintNode(&scene.button));
+        scene.button.setTitleText("Still alive");
+        scene.stage.renderFrame();
+    }
+
+    void checkableReadsWhatCheckedIs()
+    {
+        StbButton button;
+        QSignalSpy changed(&button, &StbButton::checkableChanged);
+        button.setCheckable(true);
+        QCOMPARE(changed.count(), 1);
+        QVERIFY(!button.isCheckable());
+        button.setCheckable(true);
+        QCOMPARE(changed.count(), 1);
+        button.setChecked(true);
+        QVERIFY(button.isCheckable());
+        QCOMPARE(changed.count(), 1);
+        button.setCheckable(false);
+        QCOMPARE(changed.count(), 2);
+        QVERIFY(button.isCheckable());
+    }
+
+    void theRoundingRadiusIsAlwaysNothing()
+    {
+        StbButton button;
+        QSignalSpy changed(&button, &StbButton::roundingRadiusChanged);
+        QVERIFY(button.setProperty("roundingRadius", 8));
+        QCOMPARE(button.property("roundingRadius"), QVariant(0.));
+        QCOMPARE(changed.count(), 0);
+    }
+
+    void iconSourcesLoseALeadingQrc_data()
+    {
+        QTest::addColumn<QString>("source");
+        QTest::addColumn<QString>("path");
+        QTest::newRow("resource URL") << "qrc:/icons/left.png"
+                                      << ":/icons/left.png";
+        QTest::newRow("with three slashes") << "qrc:///icons/left.png"
+                                            << ":///icons/left.png";
+        QTest::newRow("resource path") << ":/icons/left.png"
+                                       << ":/icons/left.png";
+        QTest::newRow("capitals stay") << "QRC:/icons/left.png"
+                                       << "QRC:/icons/left.png";
+        QTest::newRow("any name that begins so") << "qrcode.png"
+                                                 << "ode.png";
+        QTest::newRow("elsewhere it stays") << "/a/qrc.png"
+                                            << "/a/qrc.png";
+        QTest::newRow("only its letters") << "qrc"
+                                          << "";
+    }
+    void iconSourcesLoseALeadingQrc()
+    {
+        QFETCH(QString, source);
+        QFETCH(QString, path);
+        for (const char *property : { "leftIconSource", "rightIconSource" }) {
+            StbButton button;
+            QVERIFY(button.setProperty(property, source));
+            QCOMPARE(button.property(property), QVariant(path));
+        }
+    }
+
+    void theSameQrcSourceIsAChangeEachTime()
+    {
+        Scene scene;
+        scene.button.setStyle(&scene.style);
+        QSignalSpy left(&scene.button, &StbButton::leftIconSourceChanged);
+        QSignalSpy right(&scene.button, &StbButton::rightIconSourceChanged);
+        for (int i = 0; i < 3; ++i) {
+            scene.button.setLeftIconSource("qrc:/icons/left.png");
+            scene.button.setRightIconSource("qrc:/icons/right.png");
+        }
+        QCOMPARE(left.count(), 3);
+        QCOMPARE(right.count(), 3);
+        scene.button.setLeftIconSource(":/icons/left.png");
+        QCOMPARE(left.count(), 3);
+    }
+
+    void theFirstAssignmentOfIsFixedWidthAlwaysCounts()
+    {
+        Scene scene;
+        scene.fill();
+        QSignalSpy changed(&scene.button, &StbButton::fixedWidthChanged);
+        scene.button.setIsFixedWidth(true);
+        QCOMPARE(changed.count(), 1);
+        scene.button.setIsFixedWidth(true);
+        QCOMPARE(changed.count(), 1);
+        scene.button.setIsFixedWidth(false);
+        QCOMPARE(changed.count(), 2);
+        QVERIFY(!scene.button.isFixedWidth());
+    }
+
+    void aFixedButtonHasTheStylesSize()
+    {
+        Scene scene;
+        scene.button.setStyle(&scene.style);
+        QCOMPARE(scene.button.implicitWidth(), 313);
+        QCOMPARE(scene.button.implicitHeight(), 0); // without content
+        scene.button.setTitleText("Watch");
+        QCOMPARE(scene.button.size(), QSizeF(313, 87));
+    }
+
+    void anIconAloneGivesTheHeightToo()
+    {
+        Scene scene;
+        scene.button.setStyle(&scene.style);
+        scene.button.setRightIconSource(":/icons/no such file.png"); // tried is enough
+        QCOMPARE(scene.button.height(), 87);
+    }
+
+    void aStyleWithoutSizeGivesNone()
+    {
+        Scene scene;
+        design_system::QmlButtonStyle style = oddButtonStyle();
+        style.size = QRect();
+        scene.style.setStyle(style);
+        scene.fill();
+        QCOMPARE(scene.button.implicitWidth(), 0);
+        QCOMPARE(scene.button.implicitHeight(), 0);
+    }
+
+    void aGivenWidthBecomesTheImplicitOne()
+    {
+        Scene scene;
+        scene.button.setWidth(211.9);
+        scene.fill();
+        QCOMPARE(scene.button.implicitWidth(), 211);
+        QCOMPARE(scene.button.width(), 211.9);
+        scene.button.setWidth(307);
+        QCOMPARE(scene.button.implicitWidth(), 307);
+    }
+
+    void aHeightStaysWhenAnotherStyleComes()
+    {
+        Scene scene;
+        scene.fill();
+        StyleObject other;
+        other.setStyle(otherButtonStyle());
+        scene.button.setStyle(&other);
+        QCOMPARE(scene.button.implicitWidth(), 251);
+        QCOMPARE(scene.button.height(), 87);
+    }
+
+    void aButtonThatIsNotFixedGrowsWithItsContent()
+    {
+        Scene scene;
+        scene.button.setIsFixedWidth(false);
+        scene.fill();
+        scene.button.setSubtitleText({});
+        const int title = textSize(oddButtonStyle().titleStyle, "Watch now").width();
+        const int subtitle = textSize(oddButtonStyle().subtitleStyle, "From the start").width();
+        const int between = 19 + 21 + 13 + 7 + 11 + 13 + 27 + 23;
+        // The room of a line that became empty stays.
+        QCOMPARE(scene.button.width(), between + qMax(title, subtitle));
+        const QString longText = "Watch now, from the very beginning to the end";
+        scene.button.setTitleText(longText);
+        const int longTitle = textSize(oddButtonStyle().titleStyle, longText).width();
+        QVERIFY(longTitle > 313);
+        QCOMPARE(scene.button.width(), between + longTitle);
+        scene.button.setLeftPadding(41);
+        QCOMPARE(scene.button.width(), between + longTitle - 19 + 41);
+        scene.button.setRightPadding(61);
+        QCOMPARE(scene.button.width(), between + longTitle - 19 + 41 - 23 + 61);
+    }
+
+    void aButtonThatIsNotFixedAnyMoreShowsItsWholeText()
+    {
+        Scene scene;
+        scene.button.setStyle(&scene.style);
+        const QString text = "Watch now, from the very beginning to the end";
+        scene.button.setTitleText(text);
+        QCOMPARE(scene.button.width(), 313);
+        scene.button.setIsFixedWidth(false);
+        const int title = textSize(oddButtonStyle().titleStyle, text).width();
+        QCOMPARE(scene.button.width(), 19 + 7 + title + 11 + 23);
+        scene.stage.renderFrame();
+        QCOMPARE(scene.children().first().rect.width(), title);
+    }
+
+    void aFixedButtonShortensItsTextToTheColumn()
+    {
+        Scene scene;
+        scene.fill();
+        const QString text = "Watch now, from the very beginning to the end";
+        scene.button.setTitleText(text);
+        scene.stage.renderFrame();
+        const QSize shortened = textSize(oddButtonStyle().titleStyle, text, 221);
+        QVERIFY(shortened.width() <= 221);
+        QCOMPARE(scene.children()[1].rect.size().toSize(), shortened);
+    }
+
+    void aTextIsLaidOutOncePerTextFontAndWidth()
+    {
+        Scene scene;
+        const auto filled = [&] {
+            scene.fill();
+            scene.stage.renderFrame();
+        };
+        QCOMPARE(stbtest::textsLaidOut(filled), 2);
+        const auto none = [&](const std::function<void()> &change) {
+            return stbtest::textsLaidOut([&] {
+                       change();
+                       scene.stage.renderFrame();
+                   })
+                   == 0;
+        };
+        QVERIFY(none([&] { scene.button.setFocused(true); }));
+        QVERIFY(none([&] { scene.button.setChecked(true); }));
+        QVERIFY(none([&] { scene.button.setEnabled(false); }));
+        QVERIFY(none([&] { scene.button.setHeight(99); }));
+        QVERIFY(none([&] { scene.button.setLeftPadding(3); }));
+        QVERIFY(none([&] { scene.button.setThrobberVisible(true); }));
+        QVERIFY(none([&] { scene.button.setThrobberVisible(false); }));
+        QVERIFY(none([&] { scene.button.setIsFixedWidth(true); }));
+        StyleObject equal;
+        equal.setStyle(oddButtonStyle());
+        QVERIFY(none([&] { scene.button.setStyle(&equal); }));
+        QVERIFY(none([&] { scene.button.setStyle(nullptr); }));
+        QVERIFY(none([&] { scene.button.setStyle(&scene.style); }));
+        QCOMPARE(stbtest::textsLaidOut([&] {
+                     scene.button.setTitleText("Watch");
+                     scene.stage.renderFrame();
+                 }),
+                 1);
+    }
+
+    void aButtonIsOneObjectOneItem()
+    {
+        Scene scene;
+        QCOMPARE(stbtest::objectsCreated([] { const StbButton button; }), 1);
+        scene.fill();
+        scene.stage.renderFrame();
+        QCOMPARE(stbtest::objectCount(&scene.button), 1);
+        QCOMPARE(stbtest::itemCount(&scene.button), 1);
+        QCOMPARE(stbtest::objectsCreated([] { const StbButtonWithCheckIndicator button; }), 1);
+        // The renderer, once it is shown for the first time.
+        QCOMPARE(stbtest::objectsCreated([&] { scene.button.setThrobberVisible(true); }), 1);
+        QCOMPARE(stbtest::objectsCreated([&] { scene.button.setThrobberVisible(false); }), 0);
+        QCOMPARE(stbtest::objectsCreated([&] { scene.button.setThrobberVisible(true); }), 0);
+        QCOMPARE(stbtest::itemCount(&scene.button), 1);
+    }
+
+    void qmlSetsEveryProperty()
+    {
+        stbtest::QmlScene qml;
+        const auto button = qml.createItem<StbButton>(R"(
+            import QtQuick
+            import Stbui.UI.Qml.Controls.Basic
+            import Stbui.UI.Qml.Design
+            Button {
+                style: ButtonQmlStyle {}
+                leftIconSource: "qrc:/icons/left.png"; rightIconSource: "qrc:/icons/right.png"
+                titleText: "a"; subtitleText: "b"
+                focused: true; checked: true; checkable: true; isFixedWidth: false; throbberVisible: true
+                forceTitleColor: true; titleForcedColor: "red"; leftPadding: 3; rightPadding: 5
+                roundingRadius: 7
+            })");
+        QVERIFY(button);
+        QVERIFY(button->style());
+        QCOMPARE(button->leftIconSource(), ":/icons/left.png");
+        QCOMPARE(button->titleText(), "a");
+        QCOMPARE(button->titleForcedColor(), QColor(Qt::red));
+        QVERIFY(!button->isFixedWidth());
+        QVERIFY(button->isThrobberVisible());
+    }
+
+    void qmlTakesTheStyleAwayAgain()
+    {
+        stbtest::QmlScene qml;
+        const auto button = qml.createItem<StbButton>(R"(
+            import Stbui.UI.Qml.Controls.Basic
+            import Stbui.UI.Qml.Design
+            Button { style: checked ? undefined : given; property ButtonQmlStyle given: ButtonQmlStyle {} })");
+        QVERIFY(button);
+        QVERIFY(button->style());
+        button->setChecked(true);
+        QVERIFY(!button->style());
+    }
+
+    void theButtonWithCheckIndicatorIsAButtonAndAddsNothing()
+    {
+        const QMetaObject &meta = StbButtonWithCheckIndicator::staticMetaObject;
+        QCOMPARE(meta.superClass(), &StbButton::staticMetaObject);
+        QCOMPARE(meta.propertyCount(), meta.propertyOffset());
+        QCOMPARE(meta.methodCount(), meta.methodOffset());
+    }
+
+private:
+    using Spies = std::vector<std::unique_ptr<QSignalSpy>>;
+
+    static Spies spiesOf(StbButton &button)
+    {
+        Spies spies;
+        const QMetaObject *meta = button.metaObject();
+        for (int i = StbButton::staticMetaObject.methodOffset(); i < meta->methodCount(); ++i) {
+            if (meta->method(i).methodType() == QMetaMethod::Signal)
+                spies.push_back(std::make_unique<QSignalSpy>(&button, meta->method(i)));
+        }
+        return spies;
+    }
+    static QByteArrayList emitted(const Spies &spies)
+    {
+        QByteArrayList names;
+        for (const auto &spy : spies)
+            names.insert(names.size(), spy->count(), spy->signal().chopped(2));
+        return names;
+    }
+};
+
+STB_TEST_MAIN(tst_StbButton)
+#include "tst_stbbutton.moc"
