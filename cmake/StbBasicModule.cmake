@@ -41,8 +41,12 @@ qt_add_qml_module(${module}
         controls/epg/stbepgviewdelegatelayout.cpp controls/epg/stbepgviewdelegatelayout.h
         controls/propertysetters.h
         controls/stylereference.h
+        controls/tiles/stbcontenttile.cpp controls/tiles/stbcontenttile.h controls/tiles/stbcontenttile_p.h
+        controls/tiles/stbcontenttilelayout.cpp controls/tiles/stbcontenttilelayout.h
         controls/tiles/stbexpandabletile.cpp controls/tiles/stbexpandabletile.h
         controls/tiles/stbexpandabletile_p.h
+        controls/tiles/stbvodtile.cpp controls/tiles/stbvodtile.h controls/tiles/stbvodtile_p.h
+        controls/tiles/stbvodtilelayout.cpp controls/tiles/stbvodtilelayout.h
         plugin/qmlsettings.cpp plugin/qmlsettings.h
         plugin/versionguard.cpp plugin/versionguard.h
         scenegraph/childnodes.h

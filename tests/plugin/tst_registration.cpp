@@ -57,8 +57,10 @@ private Q_SLOTS:
         QTest::addColumn<QString>("className");
         QTest::newRow("Button") << "StbButton";
         QTest::newRow("ButtonWithCheckIndicator") << "StbButtonWithCheckIndicator";
+        QTest::newRow("ContentTile") << "StbContentTile";
         QTest::newRow("EpgViewDelegate") << "StbEpgViewDelegate";
         QTest::newRow("ExpandableTile") << "StbExpandableTile";
+        QTest::newRow("VodTile") << "StbVodTile";
     }
     void everyElementHasItsName()
     {

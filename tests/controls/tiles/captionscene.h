@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#ifndef STBTEST_CAPTIONSCENE_H
+#define STBTEST_CAPTIONSCENE_H
+
+#include "testkit/fakeplatform.h"
+#include "testkit/nodes.h"
+#include "testkit/qmlscene.h"
+#include "testkit/stage.h"
+#include "tilestyles.h"
+
+#include <controls/tiles/stbexpandabletile_p.h>
+#include <stbcore/textrenderer.h>
+
+#include <QtGui/qcolor.h>
+
+inline const QColor captionGround(150, 190, 160);
+
+/*! A stage with one tile on a coloured ground, made from C++: no engine, so neither pictures nor settings. */
+template <typename Tile>
+struct CaptionScene
+{
+    CaptionScene()
+    {
+        style.setStyle(oddTileStyle());
+        tile.setParentItem(stage.contentItem());
+        tile.setPosition(QPointF(60, 40));
+    }
+
+    /*! The nodes from the first one behind the base tile's: it has a background and a frame without a picture. */
+    QList<stbtest::NodeInfo> nodes() { return stbtest::childNodes(stbtest::paintNode(&tile)).mid(2); }
+
+    stbtest::Stage stage { QSize(360, 340), captionGround };
+    design_system::TileQmlStyle style;
+    Tile tile;
+};
+
+/*! The same with a tile made in QML that loads pictures; its animations are off, unless \a animated. */
+template <typename Tile>
+struct QmlCaptionScene
+{
+    explicit QmlCaptionScene(const QString &element, const QString &content = {}, bool animated = false)
+    {
+        configuration.setValue("Animations", "fadeEffectEnabled", animated);
+        style.setStyle(oddTileStyle());
+        tile = qml.createItem<Tile>("import Stbui.UI.Qml.Controls.Basic\n" + element + " { x: 60; y: 40; "
+                                            + content + " }",
+                                    stage.contentItem());
+        if (tile)
+            tile->setStyle(&style);
+    }
+
+    stbtest::MemoryConfiguration configuration;
+    stbtest::QmlScene qml;
+    stbtest::Stage stage { QSize(360, 340), captionGround };
+    design_system::TileQmlStyle style;
+    std::unique_ptr<Tile> tile;
+};
+
+/*! Starts the focus animation of \a tile and holds it where \a progress, 0 to 1, of its time is over. */
+inline void holdFocusAnimation(StbExpandableTile *tile, double progress)
+{
+    auto *d = static_cast<StbExpandableTilePrivate *>(QQuickItemPrivate::get(tile));
+    d->m_focusTimeLine.setDuration(1000);
+    tile->setState(QStringLiteral("focused"));
+    d->m_focusTimeLine.setPaused(true);
+    d->m_focusTimeLine.setCurrentTime(qRound(1000 * progress));
+}
+
+/*! The extent that \a text takes in \a style and \a width. */
+inline QRect captionExtent(const design_system::TextStyle &style, const QString &text, int width)
+{
+    stbcore::TextRenderer renderer;
+    renderer.setTextFont(style.font);
+    renderer.setMaxLineCount(style.maxLineCount);
+    renderer.setTextAlignment(style.alignment);
+    renderer.setMaxTextWidth(width);
+    renderer.setText(text);
+    renderer.relayout();
+    return renderer.boundingRect();
+}
+
+/*! Whether every opaque pixel is of this colour, and there is one. */
+inline bool isPaintedIn(const QPixmap &pixmap, const QColor &color)
+{
+    const QImage image = pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
+    int opaque = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            if (qAlpha(pixel) < 255)
+                continue;
+            ++opaque;
+            if (pixel != color.rgb())
+                return false;
+        }
+    }
+    return opaque > 0;
+}
+
+/*! Where \a node lies in the stage of a scene. */
+inline QRect onStage(const stbtest::NodeInfo &node)
+{
+    return node.rect.toRect().translated(60, 40);
+}
+
+#endif // STBTEST_CAPTIONSCENE_H
