@@ -6,8 +6,6 @@
 #include <QtCore/private/qhooks_p.h>
 #include <QtQuick/qquickitem.h>
 
-#include <atomic>
-
 #ifdef STBTEST_COUNTS_TEXTS
 #include <stbcore/textcounters.h>
 #endif
@@ -15,7 +13,7 @@
 namespace stbtest {
 namespace {
 
-std::atomic<int> created = 0;
+thread_local int created = 0;
 QHooks::AddQObjectCallback nextHook = nullptr;
 
 void countObject(QObject *object)

@@ -27,7 +27,10 @@ int itemCount(const QQuickItem *item);
 */
 int itemNodeCount(QQuickItem *item);
 
-/*! How many QObjects \a action creates in the whole process, whether they live on or not. */
+/*!
+    How many QObjects \a action creates on the calling thread, whether they live on or not. What other threads do
+    meanwhile, such as Qt Quick's loading of pictures, would make the number another one in each run.
+*/
 int objectsCreated(const std::function<void()> &action);
 
 /*! How many texts \a action lays out, by stbcore::TextRenderer; -1 when the platform does not count. */

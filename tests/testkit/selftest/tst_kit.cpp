@@ -13,6 +13,8 @@
 #include <QtGui/qpainter.h>
 #include <QtQuick/qsgnode.h>
 
+#include <thread>
+
 using stbtest::Stage;
 
 class tst_Kit : public stbtest::TestCase
@@ -35,6 +37,7 @@ private Q_SLOTS:
     void itemsAreCountedWithTheirChildren();
     void theNodesOfAnItemIncludeItsPlace();
     void createdObjectsAreCountedThoughDeleted();
+    void objectsCreatedByAnotherThreadAreNotCounted();
     void paintedPixelsAreThoseOfTheChange();
     void tiledPixmapsAreInForceWhileTheyLive();
     void tiledPixmapsCountWhatIsAsked();
@@ -239,6 +242,15 @@ void tst_Kit::createdObjectsAreCountedThoughDeleted()
              2);
     const QObject uncounted;
     QCOMPARE(stbtest::objectsCreated([] {}), 0);
+}
+
+void tst_Kit::objectsCreatedByAnotherThreadAreNotCounted()
+{
+    QCOMPARE(stbtest::objectsCreated([] {
+                 const QObject counted;
+                 std::thread([] { const QObject uncounted; }).join();
+             }),
+             1);
 }
 
 void tst_Kit::paintedPixelsAreThoseOfTheChange()
