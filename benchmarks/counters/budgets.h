@@ -5,23 +5,28 @@
 #include "figures.h"
 
 #include <QtCore/qjsonobject.h>
+#include <QtCore/qpair.h>
 #include <QtCore/qstringlist.h>
 
 namespace stbbench {
 
+/*! Figures under the name of what they are the figures of. */
+using NamedFigures = QList<QPair<QString, QList<Figure>>>;
+
 /*! The budgets in \a file, or an error text in \a error. */
 QJsonObject readBudgets(const QString &file, QString *error);
 
-/*! What is wrong with \a figures beside \a budgets: grown, without a budget, or a budget without its figure. */
-QStringList overruns(const QList<Figure> &figures, const QJsonObject &budgets);
+/*!
+    What is wrong with the figures of \a name beside \a budgets: grown, without a budget, or a budget without its
+    figure.
+*/
+QStringList overruns(const QString &name, const QList<Figure> &figures, const QJsonObject &budgets);
 
 /*! The figures below their budget, which can be lowered. */
-QStringList savings(const QList<Figure> &figures, const QJsonObject &budgets);
+QStringList savings(const QString &name, const QList<Figure> &figures, const QJsonObject &budgets);
 
-QJsonObject toJson(const QList<Figure> &figures);
-
-/*! Writes \a object, indented; false when that fails. */
-bool writeJson(const QString &file, const QJsonObject &object);
+/*! An object for each name, in it a line for each step, in the order of the steps. What was not counted is left out. */
+QByteArray toJson(const NamedFigures &all);
 
 } // namespace stbbench
 

@@ -1,124 +1,163 @@
 // SPDX-License-Identifier: MIT
 #include "figures.h"
 
-#include "forms/forms.h"
+#include "forms/form.h"
 #include "testkit/counters.h"
 #include "testkit/pictures.h"
 #include "testkit/stage.h"
 
+#include <QtCore/qcoreapplication.h>
+#include <QtCore/qdeadlinetimer.h>
+#include <QtCore/qthread.h>
+#include <QtQuick/qquickwindow.h>
+
 namespace stbbench {
 namespace {
 
-const QColor background(0x10, 0x18, 0x28);
+constexpr int patience = 10000; // milliseconds, for what comes by itself; it needs a few
+constexpr int restTime = 200; // milliseconds in which a throbber or an animation would have asked for frames
 
-/*! A row on a stage whose frames are checked: a figure of a wrong picture is worth nothing. */
-class CountedRow
+/*! What happened while something was done and its frame painted. */
+struct Cost
+{
+    int objects = 0;
+    qint64 texts = 0;
+    qint64 pixels = 0;
+};
+
+/*! An item on a stage whose frames are checked: a figure of a wrong picture is worth nothing. */
+class CountedItem
 {
 public:
-    explicit CountedRow(Form &form)
-        : m_stage(QSize(640, 180), background)
-        , m_form(form)
+    CountedItem(const Subject &subject, Form &form, int number)
+        : m_stage(QSize(640, 360), QColor(0x10, 0x18, 0x28))
+        , m_name(subject.key + QStringLiteral(", ") + form.name())
+        , m_isModule(form.name() == subject.forms.first().name)
     {
         m_stage.renderFrame();
-        m_created = stbtest::objectsCreated([this] {
-            m_texts = stbtest::textsLaidOut([this] {
-                m_row = m_form.create(programme(1));
-                m_row->setParentItem(m_stage.contentItem());
-                m_row->setPosition(QPointF(16, 12));
-                m_firstFrame = stbtest::pixelCount(m_stage.renderFrame());
-            });
-        });
+        Cost cost = measure([&] { m_item = form.create(subject.content(number, Pictures::Later)); },
+                            Frame::None);
+        add("created", "items", stbtest::itemCount(m_item.get()));
+        add("created", "objects", cost.objects);
+        add("created", "texts", m_isModule ? cost.texts : -1);
+        cost = measure([this] { show(); }, Frame::Painted);
+        addFrame(QStringLiteral("first frame"), cost);
+        checkFrames(QStringLiteral("first frame"));
     }
 
-    qint64 painted(const char *property, const QVariant &value)
+    void apply(const Change &change)
     {
-        const qint64 pixels = stbtest::pixelsPainted(m_stage, [this, property, &value] {
-            if (!m_row->setProperty(property, value))
-                qFatal("%s has no property %s", qPrintable(m_form.name()), property);
-        });
-        checkPicture();
-        return pixels;
+        const Cost cost = measure([&] { make(change); }, Frame::Painted);
+        addFrame(change.name, cost);
+        // An animation of Qt Quick's goes by the clock: between the two pictures it may have moved on.
+        if (change.comparable || m_isModule)
+            checkFrames(change.name);
+        if (!change.comparable)
+            return;
+        m_count.steps.append(change.name);
+        m_count.pictures.append(m_stage.picture());
     }
 
-    qint64 paintedByUpdate()
+    void countFramesAtRest()
     {
-        return stbtest::pixelsPainted(m_stage, [this] { m_row->update(); });
+        const int before = m_stage.frameRequests();
+        for (QDeadlineTimer rest(restTime); !rest.hasExpired(); QThread::msleep(1))
+            QCoreApplication::processEvents();
+        add("at rest", "frames", m_stage.frameRequests() - before);
     }
 
-    qint64 textsFor(const char *property, const QVariant &value)
-    {
-        return stbtest::textsLaidOut([this, property, &value] {
-            m_row->setProperty(property, value);
-            m_stage.renderFrame();
-        });
-    }
-
-    QQuickItem *row() const { return m_row.get(); }
-    int created() const { return m_created; }
-    qint64 texts() const { return m_texts; }
-    qint64 firstFrame() const { return m_firstFrame; }
+    Count count() const { return m_count; }
 
 private:
-    void checkPicture()
+    enum class Frame { None, Painted };
+
+    void show()
+    {
+        m_item->setParentItem(m_stage.contentItem());
+        m_item->setPosition(QPointF(40, 24));
+    }
+
+    void make(const Change &change)
+    {
+        for (auto it = change.properties.begin(); it != change.properties.end(); ++it) {
+            if (!m_item->setProperty(qPrintable(it.key()), it.value()))
+                qFatal("%s has no property %s", qPrintable(m_name), qPrintable(it.key()));
+        }
+        if (change.kind == Change::Kind::Update)
+            m_item->update();
+        if (change.kind == Change::Kind::Arrival)
+            waitForFrame(change.name);
+    }
+
+    void waitForFrame(const QString &step)
+    {
+        Q_EMIT m_stage.window()
+                ->frameSwapped(); // the last frame is on the screen: an animation asks for another
+        for (QDeadlineTimer limit(patience); !m_stage.wantsFrame(); QThread::msleep(1)) {
+            if (limit.hasExpired())
+                qFatal("%s: %s asks for no frame", qPrintable(m_name), qPrintable(step));
+            QCoreApplication::processEvents();
+        }
+    }
+
+    template <typename Function>
+    Cost measure(const Function &function, Frame frame)
+    {
+        Cost cost;
+        cost.objects = stbtest::objectsCreated([&] {
+            cost.texts = stbtest::textsLaidOut([&] {
+                function();
+                if (frame == Frame::Painted)
+                    cost.pixels = stbtest::pixelCount(m_stage.renderFrame());
+            });
+        });
+        return cost;
+    }
+
+    void add(const QString &step, const char *what, qint64 value)
+    {
+        m_count.figures.append({ step, QLatin1String(what), value });
+    }
+    void add(const char *step, const char *what, qint64 value) { add(QLatin1String(step), what, value); }
+
+    // The texts of the other forms are laid out by Qt Quick, which does not count them.
+    void addFrame(const QString &step, const Cost &cost)
+    {
+        add(step, "nodes", stbtest::itemNodeCount(m_item.get()));
+        add(step, "objects", cost.objects);
+        add(step, "texts", m_isModule ? cost.texts : -1);
+        add(step, "pixels", cost.pixels);
+    }
+
+    void checkFrames(const QString &step)
     {
         if (m_stage.picture() == m_stage.renderWhole())
             return;
-        qFatal("%s: its frames do not add up to its picture, see %s", qPrintable(m_form.name()),
+        qFatal("%s, %s: the frames do not add up to the picture, see %s", qPrintable(m_name),
+               qPrintable(step),
                qPrintable(stbtest::savePicture(m_stage.picture(), QStringLiteral("counters-frames"))));
     }
 
     stbtest::Stage m_stage;
-    Form &m_form;
-    std::unique_ptr<QQuickItem> m_row;
-    int m_created = 0;
-    qint64 m_texts = 0;
-    qint64 m_firstFrame = 0;
+    const QString m_name;
+    const bool m_isModule;
+    std::unique_ptr<QQuickItem> m_item;
+    Count m_count;
 };
 
 } // namespace
 
-QList<Figure> countRow(Form &form)
+Count count(const Subject &subject, Form &form, int first)
 {
-    form.create(programme(0)); // what is made once for all rows is no part of a row
-    CountedRow row(form);
-    QList<Figure> figures;
-    const auto add = [&figures](const char *name, qint64 value) {
-        figures.append({ QLatin1String(name), value });
-    };
-    add("objects", stbtest::objectCount(row.row()));
-    add("objects created", row.created());
-    add("items", stbtest::itemCount(row.row()));
-    add("nodes", stbtest::itemNodeCount(row.row()));
-    add("platform texts, first frame", row.texts());
-    add("pixels, first frame", row.firstFrame());
-    add("pixels, nothing changed", row.paintedByUpdate());
-    add("pixels, same title again", row.painted("itemTitle", programme(1).title));
-    add("pixels, title changed", row.painted("itemTitle", programme(2).title));
-    add("pixels, subtitle changed", row.painted("itemSubtitle", programme(2).subtitle));
-    add("pixels, start time changed", row.painted("tvProgramStartTimeText", programme(2).startTime));
-    add("pixels, playable switched", row.painted("tvProgramPlayable", true));
-    add("pixels, live switched on", row.painted("tvProgramIsLive", true));
-    add("nodes, live", stbtest::itemNodeCount(row.row()));
-    add("pixels, title changed while live", row.painted("itemTitle", programme(3).title));
-    add("pixels, live switched off", row.painted("tvProgramIsLive", false));
-    add("platform texts, title changed", row.textsFor("itemTitle", programme(4).title));
-    add("platform texts, playable switched", row.textsFor("tvProgramPlayable", false));
-    return figures;
-}
-
-QImage picture(Form &form)
-{
-    stbtest::Stage stage(QSize(640, 180), background);
-    Programme shown = programme(1);
-    const std::unique_ptr<QQuickItem> quiet = form.create(shown);
-    shown.live = true;
-    const std::unique_ptr<QQuickItem> live = form.create(shown);
-    for (QQuickItem *row : { live.get(), quiet.get() }) {
-        row->setParentItem(stage.contentItem());
-        row->setPosition(QPointF(16, row == live.get() ? 12 : 108));
+    Count count;
+    for (const int number : { first + 50, first }) { // what the first one makes for all is no part of an item
+        CountedItem item(subject, form, number);
+        for (const Change &change : subject.changes(number))
+            item.apply(change);
+        item.countFramesAtRest();
+        count = item.count();
     }
-    stage.renderFrame();
-    return stage.picture();
+    return count;
 }
 
 } // namespace stbbench

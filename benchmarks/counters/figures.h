@@ -9,22 +9,31 @@
 namespace stbbench {
 
 class Form;
+struct Subject;
 
-/*! One counted number, the same on each run of one build; -1 for texts of a platform that does not count them. */
+/*! One counted number, the same on each run of one build; -1 for what cannot be counted here. */
 struct Figure
 {
-    QString name;
+    QString step; // "title changed"
+    QString what; // "pixels"
     qint64 value = 0;
 };
 
-/*!
-    Counts what one row of \a form costs: objects, items and nodes, texts laid out, pixels painted per change. Ends
-    the program when the form's frames do not add up to the picture that they show when painted in whole.
-*/
-QList<Figure> countRow(Form &form);
+/*! What one item of a form costs, and what it looked like at each step that all forms show in one way. */
+struct Count
+{
+    QList<Figure> figures;
+    QStringList steps; // of the pictures
+    QList<QImage> pictures;
+};
 
-/*! One live row of \a form above one that is not. */
-QImage picture(Form &form);
+/*!
+    Counts what one item of \a form costs when it is made, when it is painted first and at each change of
+    \a subject. Ends the program when the form's frames do not add up to the picture that they show when painted
+    in whole, or when a picture or a throbber that should ask for a frame does not. \a first is the number of the
+    item; its pictures must not have been shown before, so that they arrive.
+*/
+Count count(const Subject &subject, Form &form, int first);
 
 } // namespace stbbench
 

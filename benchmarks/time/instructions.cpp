@@ -42,18 +42,18 @@ bool canCollect()
 #endif
 }
 
-void collectRows(Form &form, Phase phase, int count)
+void collectItems(const Subject &subject, Form &form, Phase phase, int count)
 {
     const auto nothing = [](Phase) {};
-    createRows(form, 0, 3, { nothing, nothing }); // what is made once is no part of a row
+    createItems(subject, form, 0, 3, { nothing, nothing }); // what is made once is no part of an item
     const auto toggle = [phase](Phase current) {
         if (current == phase)
             toggleCollection();
     };
-    createRows(form, 1000, count, { toggle, toggle });
+    createItems(subject, form, 1000, count, { toggle, toggle });
 }
 
-std::optional<double> instructionsPerRow(const QString &form, Phase phase, int count, QString *error)
+std::optional<double> instructionsPerItem(const QString &key, int form, Phase phase, int count, QString *error)
 {
     const QTemporaryDir folder;
     const QString file = folder.filePath(QStringLiteral("callgrind.out"));
@@ -62,9 +62,9 @@ std::optional<double> instructionsPerRow(const QString &form, Phase phase, int c
     valgrind.start(QStringLiteral("valgrind"),
                    { QStringLiteral("--tool=callgrind"), QStringLiteral("--collect-atstart=no"),
                      QStringLiteral("--callgrind-out-file=%1").arg(file),
-                     QCoreApplication::applicationFilePath(), QStringLiteral("--collect"), form,
-                     QStringLiteral("--phase"), QString::number(int(phase)), QStringLiteral("--rows"),
-                     QString::number(count) });
+                     QCoreApplication::applicationFilePath(), QStringLiteral("--only"), key,
+                     QStringLiteral("--collect"), QString::number(form), QStringLiteral("--phase"),
+                     QString::number(int(phase)), QStringLiteral("--items"), QString::number(count) });
     constexpr int patience = 600000; // milliseconds; callgrind needs seconds
     if (!valgrind.waitForFinished(patience) || valgrind.exitCode() != 0) {
         *error = valgrind.errorString() + QLatin1Char('\n') + QString::fromLocal8Bit(valgrind.readAll());

@@ -13,14 +13,15 @@ namespace stbbench {
 /*! Whether this program was built with callgrind's requests. */
 bool canCollect();
 
-/*! To be run under callgrind with --collect-atstart=no: collects while one phase of \a count rows runs. */
-void collectRows(Form &form, Phase phase, int count);
+/*! To be run under callgrind with --collect-atstart=no: collects while one phase of \a count items runs. */
+void collectItems(const Subject &subject, Form &form, Phase phase, int count);
 
 /*!
-    Runs this program again under callgrind and returns the instructions of one row of the form named \a form in
-    \a phase. Nothing when valgrind fails; \a error says why.
+    Runs this program again under callgrind and returns the instructions of one item of the form number \a form of
+    the subject \a key in \a phase. Nothing when valgrind fails; \a error says why.
 */
-std::optional<double> instructionsPerRow(const QString &form, Phase phase, int count, QString *error);
+std::optional<double> instructionsPerItem(const QString &key, int form, Phase phase, int count,
+                                          QString *error);
 
 } // namespace stbbench
 

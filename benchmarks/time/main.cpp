@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "forms/forms.h"
+#include "forms/form.h"
 #include "instructions.h"
 #include "measure.h"
 #include "testkit/testcase.h"
@@ -12,105 +12,148 @@ using namespace stbbench;
 
 namespace {
 
+/*! What one form took: a value for each round, or only one. */
 struct Series
 {
+    QString form;
     QList<double> create;
     QList<double> firstFrame;
-    QList<double> total;
 
-    void add(const RowTime &time)
+    void add(const ItemTime &time)
     {
         create.append(time.create);
         firstFrame.append(time.firstFrame);
-        total.append(time.total());
+    }
+
+    QList<double> total() const
+    {
+        QList<double> sums;
+        for (qsizetype i = 0; i < create.size(); ++i)
+            sums.append(create.at(i) + firstFrame.at(i));
+        return sums;
     }
 };
 
-QList<double> ratios(const QList<double> &numerators, const QList<double> &denominators)
+/*! How many times what the module's form takes; the median over the rounds, which the forms have in common. */
+double timesTheModule(const QList<double> &values, const QList<double> &own)
 {
-    QList<double> result;
-    for (qsizetype i = 0; i < numerators.size(); ++i)
-        result.append(numerators.at(i) / denominators.at(i));
-    return result;
+    QList<double> ratios;
+    for (qsizetype i = 0; i < values.size(); ++i)
+        ratios.append(values.at(i) / own.at(i));
+    return median(ratios);
 }
 
-void printLine(const char *name, const QList<double> &row, const QList<double> &composed)
+void printLine(const char *name, const QList<QList<double>> &forms, int decimals)
 {
-    std::printf("%-14s %12.1f %14.1f %8.2f\n", name, median(row), median(composed),
-                median(ratios(row, composed)));
+    std::printf("%-28s %12.*f", name, decimals, median(forms.first()));
+    for (qsizetype i = 1; i < forms.size(); ++i)
+        std::printf(" %12.*f %6.2f x", decimals, median(forms.at(i)),
+                    timesTheModule(forms.at(i), forms.first()));
+    std::printf("\n");
 }
 
-/*! The forms take turns in each round, and the one to begin changes, so that a slow moment meets both. */
-int printTimes(Forms &forms, int rounds, int rows)
+void printTable(const QString &key, const QList<Series> &forms, int decimals)
 {
-    Series row;
-    Series composed;
+    std::printf("\n%-28s", qPrintable(key));
+    for (const Series &series : forms)
+        std::printf(&series == &forms.first() ? " %12s" : " %12s         ", qPrintable(series.form));
+    std::printf("\n");
+    QList<QList<double>> create;
+    QList<QList<double>> firstFrame;
+    QList<QList<double>> both;
+    for (const Series &series : forms) {
+        create.append(series.create);
+        firstFrame.append(series.firstFrame);
+        both.append(series.total());
+    }
+    printLine("create", create, decimals);
+    printLine("first frame", firstFrame, decimals);
+    printLine("both", both, decimals);
+}
+
+/*! The forms take turns in each round, and the one to begin changes, so that a slow moment meets all. */
+QList<Series> timeForms(const Bench &bench, int rounds, int items)
+{
+    const int formCount = int(bench.forms.size());
+    QList<Series> forms(formCount);
     int next = 1;
     for (int round = -1; round < rounds; ++round) {
-        for (int turn = 0; turn < 2; ++turn) {
-            const bool isRow = (turn == 0) == (round % 2 == 0);
-            const RowTime time = timeRows(isRow ? forms.row() : forms.composedRow(), next, rows);
-            next += rows;
+        for (int turn = 0; turn < formCount; ++turn) {
+            const int index = (round + 1 + turn) % formCount;
+            Form &form = *bench.forms.at(size_t(index));
+            const ItemTime time = timeItems(bench.subject, form, next, items);
+            next += items;
+            forms[index].form = form.name();
             if (round >= 0) // the first round warms up
-                (isRow ? row : composed).add(time);
+                forms[index].add(time);
         }
     }
-    std::printf("microseconds of processor time for one row; medians of %d rounds of %d rows\n", rounds, rows);
-    std::printf("%-14s %12s %14s %8s\n", "", "EPG row", "composed row", "ratio");
-    printLine("create", row.create, composed.create);
-    printLine("first frame", row.firstFrame, composed.firstFrame);
-    printLine("both", row.total, composed.total);
+    return forms;
+}
+
+int printTimes(const std::vector<Bench> &benches, int rounds, int items)
+{
+    std::printf("microseconds of processor time for one item; medians of %d rounds of %d items\n", rounds,
+                items);
+    for (const Bench &bench : benches)
+        printTable(bench.subject.key, timeForms(bench, rounds, items), 1);
     return 0;
 }
 
-int printInstructions(int rows)
+int printInstructions(const std::vector<Bench> &benches, int items)
 {
     if (!canCollect()) {
         std::fprintf(stderr, "built without valgrind/callgrind.h (package valgrind)\n");
         return 2;
     }
-    std::printf("instructions for one row; means of %d rows\n%-14s %12s %14s %8s\n", rows, "", "EPG row",
-                "composed row", "ratio");
-    double sums[2] = {};
-    for (const Phase phase : { Phase::Create, Phase::FirstFrame }) {
-        double counts[2] = {};
-        for (int form = 0; form < 2; ++form) {
-            QString error;
-            const auto count = instructionsPerRow(form == 0 ? QStringLiteral("row")
-                                                            : QStringLiteral("composed"),
-                                                  phase, rows, &error);
-            if (!count) {
-                std::fprintf(stderr, "%s\n", qPrintable(error));
-                return 2;
+    std::printf("instructions for one item; means of %d items\n", items);
+    for (const Bench &bench : benches) {
+        QList<Series> forms;
+        for (const auto &form : bench.forms) {
+            const int index = int(forms.size());
+            ItemTime counts;
+            for (const Phase phase : { Phase::Create, Phase::FirstFrame }) {
+                QString error;
+                const auto count = instructionsPerItem(bench.subject.key, index, phase, items, &error);
+                if (!count) {
+                    std::fprintf(stderr, "%s\n", qPrintable(error));
+                    return 2;
+                }
+                (phase == Phase::Create ? counts.create : counts.firstFrame) = *count;
             }
-            counts[form] = *count;
-            sums[form] += *count;
+            forms.append({ form->name(), {}, {} });
+            forms.last().add(counts);
         }
-        std::printf("%-14s %12.0f %14.0f %8.2f\n", phase == Phase::Create ? "create" : "first frame",
-                    counts[0], counts[1], counts[0] / counts[1]);
+        printTable(bench.subject.key, forms, 0);
+        std::fflush(stdout);
     }
-    std::printf("%-14s %12.0f %14.0f %8.2f\n", "both", sums[0], sums[1], sums[0] / sums[1]);
     return 0;
 }
 
 int run(const QCommandLineParser &parser)
 {
     const int rounds = parser.value(QStringLiteral("rounds")).toInt();
-    const int rows = parser.value(QStringLiteral("rows")).toInt();
-    if (rounds < 1 || rows < 1) {
-        std::fprintf(stderr, "--rounds and --rows have to be 1 or more\n");
+    const int items = parser.value(QStringLiteral("items")).toInt();
+    if (rounds < 1 || items < 1) {
+        std::fprintf(stderr, "--rounds and --items have to be 1 or more\n");
+        return 2;
+    }
+    Workshop workshop;
+    const QString only = parser.value(QStringLiteral("only"));
+    const std::vector<Bench> benches = workshop.benches(only);
+    if (benches.empty()) {
+        std::fprintf(stderr, "--only: there is no \"%s\"\n", qPrintable(only));
         return 2;
     }
     if (parser.isSet(QStringLiteral("instructions")))
-        return printInstructions(rows);
-    Forms forms;
+        return printInstructions(benches, items);
     if (parser.isSet(QStringLiteral("collect"))) {
-        const bool isRow = parser.value(QStringLiteral("collect")) == QLatin1String("row");
-        collectRows(isRow ? forms.row() : forms.composedRow(),
-                    Phase(parser.value(QStringLiteral("phase")).toInt()), rows);
+        const Bench &bench = benches.front();
+        collectItems(bench.subject, *bench.forms.at(parser.value(QStringLiteral("collect")).toUInt()),
+                     Phase(parser.value(QStringLiteral("phase")).toInt()), items);
         return 0;
     }
-    return printTimes(forms, rounds, rows);
+    return printTimes(benches, rounds, items);
 }
 
 QCommandLineOption hiddenOption(const QString &name)
@@ -128,12 +171,14 @@ int main(int argc, char **argv)
     const auto app = stbtest::makeApplication(argc, argv);
     QCommandLineParser parser;
     parser.setApplicationDescription(
-            QStringLiteral("What creating one programme row and painting its first frame costs."));
+            QStringLiteral("What creating one control and painting its first frame costs."));
     parser.addHelpOption();
     parser.addOptions({
+            { QStringLiteral("only"), QStringLiteral("Only the control <key> of the budgets' file."),
+              QStringLiteral("key") },
             { QStringLiteral("rounds"), QStringLiteral("Rounds to measure (21)."), QStringLiteral("count"),
               QStringLiteral("21") },
-            { QStringLiteral("rows"), QStringLiteral("Rows in a round (25)."), QStringLiteral("count"),
+            { QStringLiteral("items"), QStringLiteral("Items in a round (25)."), QStringLiteral("count"),
               QStringLiteral("25") },
             { QStringLiteral("instructions"), QStringLiteral("Count instructions with callgrind instead.") },
             hiddenOption(QStringLiteral("collect")),

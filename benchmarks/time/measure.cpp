@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "measure.h"
 
-#include "forms/forms.h"
+#include "forms/form.h"
 #include "testkit/stage.h"
 
 #include <algorithm>
@@ -19,27 +19,27 @@ double threadMicroseconds()
 
 } // namespace
 
-void createRows(Form &form, int first, int count, const Meter &meter)
+void createItems(const Subject &subject, Form &form, int first, int count, const Meter &meter)
 {
-    stbtest::Stage stage(QSize(640, 180), QColor(0x10, 0x18, 0x28));
+    stbtest::Stage stage(QSize(640, 360), QColor(0x10, 0x18, 0x28));
     stage.renderFrame();
     for (int i = 0; i < count; ++i) {
-        const Programme shown = programme(first + i);
+        const QVariantMap content = subject.content(first + i, Pictures::AtOnce);
         meter.begin(Phase::Create);
-        std::unique_ptr<QQuickItem> row = form.create(shown);
-        row->setParentItem(stage.contentItem());
+        std::unique_ptr<QQuickItem> item = form.create(content);
+        item->setParentItem(stage.contentItem());
         meter.end(Phase::Create);
         meter.begin(Phase::FirstFrame);
         stage.renderFrame();
         meter.end(Phase::FirstFrame);
-        row.reset();
+        item.reset();
         stage.renderFrame();
     }
 }
 
-RowTime timeRows(Form &form, int first, int count)
+ItemTime timeItems(const Subject &subject, Form &form, int first, int count)
 {
-    RowTime time;
+    ItemTime time;
     double start = 0;
     Meter meter;
     meter.begin = [&start](Phase) { start = threadMicroseconds(); };
@@ -47,7 +47,7 @@ RowTime timeRows(Form &form, int first, int count)
         const double passed = threadMicroseconds() - start;
         (phase == Phase::Create ? time.create : time.firstFrame) += passed;
     };
-    createRows(form, first, count, meter);
+    createItems(subject, form, first, count, meter);
     time.create /= count;
     time.firstFrame /= count;
     return time;

@@ -9,10 +9,11 @@
 namespace stbbench {
 
 class Form;
+struct Subject;
 
 enum class Phase { Create, FirstFrame };
 
-/*! What is done around a measured phase: the clock of measureRows(), or the collection of callgrind. */
+/*! What is done around a measured phase: the clock of timeItems(), or the collection of callgrind. */
 struct Meter
 {
     std::function<void(Phase)> begin;
@@ -20,13 +21,14 @@ struct Meter
 };
 
 /*!
-    Creates \a count rows of \a form one after the other on a stage, each with texts that no row had before (from
-    programme number \a first on), paints the first frame of each and takes it off again, unmeasured.
+    Creates \a count items of \a form one after the other on a stage, each with texts and pictures that none had
+    before (from number \a first on), paints the first frame of each and takes it off again, unmeasured. The
+    pictures are there at once, so that the first frame is the whole picture.
 */
-void createRows(Form &form, int first, int count, const Meter &meter);
+void createItems(const Subject &subject, Form &form, int first, int count, const Meter &meter);
 
-/*! Microseconds of this thread's processor time for one row. */
-struct RowTime
+/*! Microseconds of this thread's processor time for one item. */
+struct ItemTime
 {
     double create = 0;
     double firstFrame = 0;
@@ -34,8 +36,8 @@ struct RowTime
     double total() const { return create + firstFrame; }
 };
 
-/*! The mean over \a count rows, as createRows() makes them. */
-RowTime timeRows(Form &form, int first, int count);
+/*! The mean over \a count items, as createItems() makes them. */
+ItemTime timeItems(const Subject &subject, Form &form, int first, int count);
 
 /*! The middle one of \a values, which is not empty. */
 double median(QList<double> values);

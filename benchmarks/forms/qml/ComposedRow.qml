@@ -44,7 +44,7 @@ Item {
         id: subtitle
 
         x: 96
-        y: title.y + title.height + 4
+        y: title.y + title.height + 3
         width: 480
         text: row.itemSubtitle
         textFormat: Text.PlainText
