@@ -18,7 +18,7 @@ namespace qml_basic_plugin {
 Picture::Picture() = default;
 Picture::~Picture() = default;
 
-bool Picture::load(QQuickItem *item, const QUrl &url, const char *finished)
+bool Picture::load(QQuickItem *item, const QUrl &url, const char *finished, Loading loading)
 {
     if (!m_pixmap)
         m_pixmap = std::make_unique<QQuickPixmap>();
@@ -31,7 +31,8 @@ bool Picture::load(QQuickItem *item, const QUrl &url, const char *finished)
 
     const QQmlContext *context = qmlContext(item);
     m_pixmap->load(engine, context ? context->resolvedUrl(url) : url, QRect(), QSize(),
-                   QQuickPixmap::Asynchronous, QQuickImageProviderOptions(), 0, 0, 1.0);
+                   loading == Loading::Cached ? QQuickPixmap::Cache : QQuickPixmap::Asynchronous,
+                   QQuickImageProviderOptions(), 0, 0, 1.0);
     return m_pixmap->isLoading() && m_pixmap->connectFinished(item, finished);
 }
 

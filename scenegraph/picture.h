@@ -21,9 +21,9 @@ namespace qml_basic_plugin {
 class ChildNodes;
 
 /*!
-    A picture from a URL, loaded asynchronously through Qt Quick and shown by an image node.
+    A picture from a URL, loaded through Qt Quick and shown by an image node.
 
-    The texture belongs to the picture, never to a node, and it dies with the first frame after another load()
+    The texture belongs to the picture, never to a node, and it can die with the first frame after another load()
     began: a node that still pointed to it would be a use after free. So every load() calls the item's update(),
     and the paint update that follows has to remove the node of before, whatever texture there is by then: a
     picture that is ready at once leaves no frame without a texture in between. placeNode() does that; who places
@@ -37,6 +37,17 @@ class Picture
 {
     Q_DISABLE_COPY_MOVE(Picture)
 public:
+    /*! Where a picture comes from and whose it is. */
+    enum class Loading {
+        Background, //!< the engine's loader thread reads it, a file too; it is shared with no other item
+        /*!
+            It is taken from, or put into, Qt Quick's cache: all who load the URL in this way share one. One that
+            is there already, and one that is read from a file, a resource or a provider that answers at once, is
+            ready when load() returns, and the GUI thread waits for the reading.
+        */
+        Cached,
+    };
+
     Picture();
     ~Picture();
 
@@ -46,9 +57,9 @@ public:
         the end, successful or not. Otherwise there is nothing to wait for and nothing is called.
 
         A relative URL is taken from the item's QML document. Without an engine, or with an empty or invalid URL,
-        the picture stays empty. It is loaded in its own size and shared with no other item.
+        the picture stays empty. It is loaded in its own size.
     */
-    bool load(QQuickItem *item, const QUrl &url, const char *finished);
+    bool load(QQuickItem *item, const QUrl &url, const char *finished, Loading loading = Loading::Background);
 
     /*! The size in pixels; empty while there is no picture. */
     QSize size() const;
