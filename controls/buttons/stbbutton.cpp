@@ -279,7 +279,12 @@ bool StbButtonPrivate::setIconSource(IconNodeBuilder &icon, const QString &sourc
     if (icon.source() == source)
         return false;
     const QLatin1String scheme("qrc");
-    icon.load(source.startsWith(scheme) ? source.mid(scheme.size()) : source, QColor());
+    const QString path = source.startsWith(scheme) ? source.mid(scheme.size()) : source;
+    if (path != icon.source()) {
+        icon.clear(); // else a picture stays when another source follows
+        icon.load(path, QColor());
+        icon.colorize(QColor()); // clear() leaves a tint behind that the new picture has not got
+    }
     Q_EMIT(q->*changed)();
     return true;
 }

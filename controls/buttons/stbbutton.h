@@ -38,8 +38,7 @@ class StbButton : public QQuickItem
                        styleChanged)
     /*!
         The picture left of the texts: a file, or a resource as ":/..." or "qrc:/...". A leading "qrc" is taken
-        off, reads back without, and makes assigning it again a change. A second source keeps the first one's
-        picture until the icon is tinted anew; an empty one in between drops it. Empty by default.
+        off and reads back without, so that assigning it again counts as a change. Empty by default.
     */
     Q_PROPERTY(QString leftIconSource READ leftIconSource WRITE setLeftIconSource NOTIFY leftIconSourceChanged)
     /*! The picture right of the texts; otherwise as leftIconSource. */
