@@ -453,8 +453,9 @@ private Q_SLOTS:
         scene.tile->setState("focused");
         for (double progress : { 0.2, 0.5, 0.8, 1.0 }) {
             const QRect before = scene.tile->customFocusRect();
-            const qint64 painted = stbtest::pixelsPainted(
-                    scene.stage, [&] { advance(scene.d()->m_focusTimeLine, progress); });
+            const qint64 painted = stbtest::pixelsPainted(scene.stage, [&] {
+                advance(scene.d()->m_focusTimeLine, progress);
+            });
             QVERIFY(scene.tile->customFocusRect() != before);
             QCOMPARE(painted, stbtest::pixelCount(before.united(scene.tile->customFocusRect())));
         }
