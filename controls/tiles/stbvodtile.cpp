@@ -9,6 +9,15 @@
 using namespace qml_basic_plugin;
 using design_system::TileStyle;
 
+namespace {
+
+QColor visibleColor(const QColor &color)
+{
+    return color.isValid() ? color : QColor(Qt::transparent); // an invalid one would paint black
+}
+
+} // namespace
+
 StbVodTilePrivate::StbVodTilePrivate() = default;
 StbVodTilePrivate::~StbVodTilePrivate() = default;
 
@@ -107,37 +116,29 @@ void StbVodTilePrivate::forgetNodes()
     m_progressValuePresent = false;
 }
 
-// The badge, made with its first text and kept from then on, holds the text as its only child.
-QSGRectangleNode *StbVodTilePrivate::updateBadge(ChildNodes &children, const TileStyle &style)
+QSGRectangleNode *StbVodTilePrivate::placeRectangle(ChildNodes &children, bool wanted, bool &present,
+                                                    const QColor &styleColor)
 {
-    auto *badge = children.place<QSGRectangleNode>(m_ratingPresent || !m_rating.text().isEmpty(),
-                                                   m_ratingPresent, [&](QSGNode *root, QSGNode *before) {
-                                                       QSGContext *context = sceneGraphContext();
-                                                       QSGRectangleNode *node =
-                                                               createRectangleNode(context,
-                                                                                   style.ratingBadgeColor,
-                                                                                   root, before);
-                                                       m_rating.createNode(context, sceneGraphRenderContext(),
-                                                                           node, nullptr);
-                                                       return node;
-                                                   });
-    if (!badge)
-        return nullptr;
-    setNodeColor(badge, style.ratingBadgeColor);
-    m_rating.updateNode(static_cast<QSGImageNode *>(badge->firstChild()), style.ratingColor, nullptr);
-    return badge;
-}
-
-void StbVodTilePrivate::updateRectangle(ChildNodes &children, bool wanted, bool &present, const QColor &color,
-                                        const QRect &rect)
-{
+    const QColor color = visibleColor(styleColor);
     auto *node = children.place<QSGRectangleNode>(wanted, present, [&](QSGNode *root, QSGNode *before) {
         return createRectangleNode(sceneGraphContext(), color, root, before);
     });
-    if (!node)
-        return;
-    setNodeColor(node, color);
-    setNodeRect(node, QRectF(rect));
+    if (node)
+        setNodeColor(node, color);
+    return node;
+}
+
+// The badge, made with its first text and kept from then on, holds the text as its only child.
+QSGRectangleNode *StbVodTilePrivate::updateBadge(ChildNodes &children, const TileStyle &style)
+{
+    QSGRectangleNode *badge = placeRectangle(children, m_ratingPresent || !m_rating.text().isEmpty(),
+                                             m_ratingPresent, style.ratingBadgeColor);
+    if (!badge)
+        return nullptr;
+    if (children.created())
+        m_rating.createNode(sceneGraphContext(), sceneGraphRenderContext(), badge, nullptr);
+    m_rating.updateNode(static_cast<QSGImageNode *>(badge->firstChild()), style.ratingColor, nullptr);
+    return badge;
 }
 
 QSGNode *StbVodTilePrivate::updateExtendedNodes(const TileStyle &style, QSGNode *node)
@@ -162,9 +163,11 @@ QSGNode *StbVodTilePrivate::updateExtendedNodes(const TileStyle &style, QSGNode 
         setNodeRect(badge, QRectF(layout.ratingBadge));
         placeImageNode(static_cast<QSGImageNode *>(badge->firstChild()), layout.ratingText);
     }
-    updateRectangle(children, layout.trackShown, m_progressTrackPresent, style.progressTrackColor,
-                    layout.progressTrack);
-    updateRectangle(children, layout.progressShown, m_progressValuePresent, style.progressValueColor,
-                    layout.progressValue);
+    if (auto *track = placeRectangle(children, layout.trackShown, m_progressTrackPresent,
+                                     style.progressTrackColor))
+        setNodeRect(track, QRectF(layout.progressTrack));
+    if (auto *value = placeRectangle(children, layout.progressShown, m_progressValuePresent,
+                                     style.progressValueColor))
+        setNodeRect(value, QRectF(layout.progressValue));
     return nullptr; // no tile derives from this one
 }

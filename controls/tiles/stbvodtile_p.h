@@ -31,9 +31,9 @@ public:
     bool m_progressValuePresent = false;
 
 private:
+    QSGRectangleNode *placeRectangle(qml_basic_plugin::ChildNodes &children, bool wanted, bool &present,
+                                     const QColor &styleColor);
     QSGRectangleNode *updateBadge(qml_basic_plugin::ChildNodes &children, const Style &style);
-    void updateRectangle(qml_basic_plugin::ChildNodes &children, bool wanted, bool &present,
-                         const QColor &color, const QRect &rect);
 };
 
 #endif // STBUI_STBVODTILE_P_H

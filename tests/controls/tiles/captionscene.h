@@ -34,13 +34,13 @@ struct CaptionScene
     Tile tile;
 };
 
-/*! The same with a tile made in QML that loads pictures; its animations are off, unless \a animated. */
-template <typename Tile>
+/*! The same with a tile made in QML that loads pictures; they do not fade in, unless \a fading. */
+template <typename Tile, typename StageType = stbtest::Stage>
 struct QmlCaptionScene
 {
-    explicit QmlCaptionScene(const QString &element, const QString &content = {}, bool animated = false)
+    explicit QmlCaptionScene(const QString &element, const QString &content = {}, bool fading = false)
     {
-        configuration.setValue("Animations", "fadeEffectEnabled", animated);
+        configuration.setValue("Animations", "fadeEffectEnabled", fading);
         style.setStyle(oddTileStyle());
         tile = qml.createItem<Tile>("import Stbui.UI.Qml.Controls.Basic\n" + element + " { x: 60; y: 40; "
                                             + content + " }",
@@ -51,7 +51,7 @@ struct QmlCaptionScene
 
     stbtest::MemoryConfiguration configuration;
     stbtest::QmlScene qml;
-    stbtest::Stage stage { QSize(360, 340), captionGround };
+    StageType stage { QSize(360, 340), captionGround };
     design_system::TileQmlStyle style;
     std::unique_ptr<Tile> tile;
 };
