@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "gallery/data/cataloguereader.h"
+#include "gallery/data/ownguide.h"
+#include "gallery/data/programmestills.h"
 #include "testkit/testcase.h"
 
 #include <QtCore/qset.h>
+#include <QtGui/qimagereader.h>
 
 using namespace gallery;
 
@@ -17,6 +20,13 @@ private Q_SLOTS:
     void everyTitleAndDescriptionIsTranslated();
     void someEntriesOfEachKindAreStarted();
     void everyEpisodeHasItsNumbers();
+    void everyPictureIsThereInItsShape();
+    void everyFilmAndSeriesHasAPictureOfItsOwn();
+    void everyProgrammeOfOurGuideHasAStillOfItsCategory_data();
+    void everyProgrammeOfOurGuideHasAStillOfItsCategory();
+    void categoriesOfOtherGuidesHaveTheirStill_data();
+    void categoriesOfOtherGuidesHaveTheirStill();
+    void anUnknownCategoryHasAStillByTitle();
 };
 
 namespace {
@@ -35,6 +45,18 @@ qsizetype countOf(CatalogueEntry::Kind kind)
     const QList<CatalogueEntry> entries = entriesIn("en");
     return std::count_if(entries.cbegin(), entries.cend(),
                          [kind](const CatalogueEntry &entry) { return entry.kind == kind; });
+}
+
+// Null when there is no picture.
+QSize sizeOf(const QUrl &url)
+{
+    QImageReader reader(u':' + url.path());
+    return reader.read().size();
+}
+
+QString nameOf(const QUrl &url)
+{
+    return url.fileName().section(u'.', 0, 0);
 }
 
 } // namespace
@@ -107,6 +129,91 @@ void TestOwnCatalogue::everyEpisodeHasItsNumbers()
         QCOMPARE(entry.episode > 0, isEpisode);
         QCOMPARE(entry.series >= 0, isEpisode);
     }
+}
+
+void TestOwnCatalogue::everyPictureIsThereInItsShape()
+{
+    const QList<CatalogueEntry> entries = entriesIn("en");
+    for (const CatalogueEntry &entry : entries) {
+        QCOMPARE(sizeOf(entry.picture), QSize(400, 600));
+        const bool isEpisode = entry.kind == CatalogueEntry::Kind::Episode;
+        QCOMPARE(sizeOf(entry.still), isEpisode ? QSize(480, 270) : QSize(640, 360));
+        QCOMPARE(sizeOf(entry.logo), QSize(120, 80));
+    }
+}
+
+void TestOwnCatalogue::everyFilmAndSeriesHasAPictureOfItsOwn()
+{
+    QSet<QUrl> pictures;
+    QSet<QUrl> stills;
+    const QList<CatalogueEntry> entries = entriesIn("en");
+    for (const CatalogueEntry &entry : entries) {
+        pictures.insert(entry.picture);
+        stills.insert(entry.still);
+    }
+    QCOMPARE(pictures.size(), 16); // episodes have that of their series
+    QCOMPARE(stills.size(), entries.size());
+}
+
+void TestOwnCatalogue::everyProgrammeOfOurGuideHasAStillOfItsCategory_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const char *language : { "en", "de", "ru", "ar" })
+        QTest::newRow(language) << language;
+}
+
+void TestOwnCatalogue::everyProgrammeOfOurGuideHasAStillOfItsCategory()
+{
+    QFETCH(QString, language);
+    const QDateTime now = QDateTime::fromString(QStringLiteral("2026-05-13T20:05:00"), Qt::ISODate);
+    const Guide english = ownGuide(now, QStringLiteral("en"));
+    const Guide guide = ownGuide(now, language);
+    QSet<QUrl> stills;
+    for (int channel = 0; channel < guide.channelCount(); ++channel) {
+        for (int i = 0; i < guide.programmeCount(channel); ++i) {
+            const QUrl still = programmeStill(guide.programme(channel, i).category, QString());
+            QCOMPARE(nameOf(still),
+                     QLatin1String("still_") + english.programme(channel, i).category.toLower());
+            stills.insert(still);
+        }
+    }
+    QCOMPARE(stills.size(), 15);
+    for (const QUrl &still : stills)
+        QCOMPARE(sizeOf(still), QSize(480, 270));
+}
+
+void TestOwnCatalogue::categoriesOfOtherGuidesHaveTheirStill_data()
+{
+    QTest::addColumn<QString>("still");
+    const auto row = [](const char *category, const char *still) { QTest::newRow(category) << still; };
+    row("Movie", "still_film");
+    row("TV Series", "still_series");
+    row("Sports news", "still_sport");
+    row("  CHILDREN'S film ", "still_children");
+    row("Fußball", "still_sport");
+    row("Spielfilm", "still_film");
+    row("Dokumentation", "still_science");
+    row("Художественный фильм", "still_film");
+    row("Мультфильм", "still_children");
+    row("أخبار", "still_news");
+}
+
+void TestOwnCatalogue::categoriesOfOtherGuidesHaveTheirStill()
+{
+    const QString category = QString::fromUtf8(QTest::currentDataTag());
+    QTEST(nameOf(programmeStill(category, QString())), "still");
+}
+
+void TestOwnCatalogue::anUnknownCategoryHasAStillByTitle()
+{
+    QSet<QUrl> stills;
+    for (const char *title : { "A", "B", "C", "D", "E", "F", "G", "H", "I", "J", "K", "L" }) {
+        const QUrl still = programmeStill(QStringLiteral("Sonstiges"), QLatin1String(title));
+        QCOMPARE(programmeStill(QString(), QLatin1String(title)), still);
+        QVERIFY(!sizeOf(still).isEmpty());
+        stills.insert(still);
+    }
+    QVERIFY(stills.size() > 1);
 }
 
 STB_TEST_MAIN(TestOwnCatalogue)
