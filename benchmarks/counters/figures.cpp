@@ -2,6 +2,7 @@
 #include "figures.h"
 
 #include "forms/form.h"
+#include "forms/pictures.h"
 #include "testkit/counters.h"
 #include "testkit/pictures.h"
 #include "testkit/stage.h"
@@ -9,12 +10,10 @@
 #include <QtCore/qcoreapplication.h>
 #include <QtCore/qdeadlinetimer.h>
 #include <QtCore/qthread.h>
-#include <QtQuick/qquickwindow.h>
 
 namespace stbbench {
 namespace {
 
-constexpr int patience = 10000; // milliseconds, for what comes by itself; it needs a few
 constexpr int restTime = 200; // milliseconds in which a throbber or an animation would have asked for frames
 
 /*! What happened while something was done and its frame painted. */
@@ -35,8 +34,7 @@ public:
         , m_isModule(form.name() == subject.forms.first().name)
     {
         m_stage.renderFrame();
-        Cost cost = measure([&] { m_item = form.create(subject.content(number, Pictures::Later)); },
-                            Frame::None);
+        Cost cost = measure([&] { m_item = form.create(subject.content(number)); }, Frame::None);
         add("created", "items", stbtest::itemCount(m_item.get()));
         add("created", "objects", cost.objects);
         add("created", "texts", m_isModule ? cost.texts : -1);
@@ -85,19 +83,8 @@ private:
         }
         if (change.kind == Change::Kind::Update)
             m_item->update();
-        if (change.kind == Change::Kind::Arrival)
-            waitForFrame(change.name);
-    }
-
-    void waitForFrame(const QString &step)
-    {
-        Q_EMIT m_stage.window()
-                ->frameSwapped(); // the last frame is on the screen: an animation asks for another
-        for (QDeadlineTimer limit(patience); !m_stage.wantsFrame(); QThread::msleep(1)) {
-            if (limit.hasExpired())
-                qFatal("%s: %s asks for no frame", qPrintable(m_name), qPrintable(step));
-            QCoreApplication::processEvents();
-        }
+        if (change.kind == Change::Kind::Arrival && !waitForFrame(m_stage))
+            qFatal("%s: %s asks for no frame", qPrintable(m_name), qPrintable(change.name));
     }
 
     template <typename Function>

@@ -43,7 +43,7 @@ QString subtitle(int index)
     return QStringLiteral("from minute %1 on").arg(index % textNumbers);
 }
 
-QVariantMap content(int index, Pictures)
+QVariantMap content(int index)
 {
     return { { QStringLiteral("titleText"), title(index) },
              { QStringLiteral("subtitleText"), subtitle(index) } };

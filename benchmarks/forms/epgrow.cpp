@@ -45,7 +45,7 @@ QString subtitle(int index)
     return QStringLiteral("Part %1: what the harbour master kept to himself").arg(index % textNumbers);
 }
 
-QVariantMap content(int index, Pictures)
+QVariantMap content(int index)
 {
     return { { QStringLiteral("tvProgramStartTimeText"), startTime(index) },
              { QStringLiteral("itemTitle"), title(index) },

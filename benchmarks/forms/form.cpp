@@ -47,7 +47,7 @@ Workshop::Workshop()
 {
     d->configuration.setValue(QStringLiteral("Animations"), QStringLiteral("fadeEffectEnabled"), false);
     QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
-    addPictureProviders(&d->engine);
+    addPictureProvider(&d->engine);
 }
 
 Workshop::~Workshop() = default;

@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "forms/pictures.h"
 
+#include "testkit/stage.h"
+
+#include <QtCore/qcoreapplication.h>
+#include <QtCore/qdeadlinetimer.h>
+#include <QtCore/qthread.h>
 #include <QtGui/qpainter.h>
-#include <QtGui/qpixmap.h>
 #include <QtQml/qqmlengine.h>
 #include <QtQuick/qquickimageprovider.h>
+#include <QtQuick/qquickwindow.h>
 
 namespace stbbench {
 namespace {
@@ -33,12 +38,12 @@ QImage paintLogo()
     return image;
 }
 
-/*! One of the two pictures, by the first letters of its name; Qt Quick asks for images in a thread of its own. */
+/*! One of the two pictures, by the first letters of its name. */
 class Provider : public QQuickImageProvider
 {
 public:
-    explicit Provider(ImageType type)
-        : QQuickImageProvider(type)
+    Provider()
+        : QQuickImageProvider(Image)
     {
     }
 
@@ -49,52 +54,38 @@ public:
         return image;
     }
 
-    QPixmap requestPixmap(const QString &id, QSize *size, const QSize &) override
-    {
-        const QPixmap pixmap = id.startsWith(QLatin1String("poster")) ? m_posterPixmap : m_logoPixmap;
-        *size = pixmap.size();
-        return pixmap;
-    }
-
 private:
     const QImage m_poster = paintPoster();
     const QImage m_logo = paintLogo();
-    const QPixmap m_posterPixmap = QPixmap::fromImage(m_poster);
-    const QPixmap m_logoPixmap = QPixmap::fromImage(m_logo);
 };
-
-QUrl url(const char *pattern, int index)
-{
-    return QUrl(QString::fromLatin1(pattern).arg(index));
-}
 
 } // namespace
 
-void addPictureProviders(QQmlEngine *engine)
+void addPictureProvider(QQmlEngine *engine)
 {
-    // Qt Quick takes pixmaps at once, and images in a thread of its own where they are asked for asynchronously.
-    engine->addImageProvider(QStringLiteral("atonce"), new Provider(QQmlImageProviderBase::Pixmap));
-    engine->addImageProvider(QStringLiteral("later"), new Provider(QQmlImageProviderBase::Image));
+    engine->addImageProvider(QStringLiteral("benchmarks"), new Provider);
 }
 
 QUrl posterUrl(int index)
 {
-    return url("image://atonce/poster-%1", index);
-}
-
-QUrl laterPosterUrl(int index)
-{
-    return url("image://later/poster-%1", index);
+    return QUrl(QStringLiteral("image://benchmarks/poster-%1").arg(index));
 }
 
 QUrl logoUrl(int index)
 {
-    return url("image://atonce/logo-%1", index);
+    return QUrl(QStringLiteral("image://benchmarks/logo-%1").arg(index));
 }
 
-QUrl laterLogoUrl(int index)
+bool waitForFrame(stbtest::Stage &stage)
 {
-    return url("image://later/logo-%1", index);
+    constexpr int patience = 10000; // milliseconds; a few are needed
+    Q_EMIT stage.window()->frameSwapped(); // the last frame is on the screen: an animation asks for another
+    for (QDeadlineTimer limit(patience); !stage.wantsFrame(); QThread::msleep(1)) {
+        if (limit.hasExpired())
+            return false;
+        QCoreApplication::processEvents();
+    }
+    return true;
 }
 
 } // namespace stbbench

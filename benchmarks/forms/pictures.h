@@ -8,21 +8,30 @@ QT_BEGIN_NAMESPACE
 class QQmlEngine;
 QT_END_NAMESPACE
 
+namespace stbtest {
+class Stage;
+}
+
 namespace stbbench {
 
 /*!
     The posters and logos of the tiles. They are painted once, before anything is measured: decoding is no part
-    of a control. Each URL is another picture to Qt Quick's cache, as each tile of a screen has its own.
+    of a control. Each URL is another picture to Qt Quick's cache, as each tile of a screen has its own. They
+    arrive as files do, through Qt Quick's thread.
 */
-void addPictureProviders(QQmlEngine *engine);
+void addPictureProvider(QQmlEngine *engine);
 
-/*! The poster number \a index, 270 x 152, at once or, where it is asked for asynchronously, later. */
+/*! The poster number \a index, 270 x 152. */
 QUrl posterUrl(int index);
-QUrl laterPosterUrl(int index);
 
 /*! The logo number \a index, 48 x 24 with a transparent background. */
 QUrl logoUrl(int index);
-QUrl laterLogoUrl(int index);
+
+/*!
+    Lets events happen until an item on \a stage asks for a frame: a picture has arrived, a throbber has turned.
+    False when none does within some seconds.
+*/
+bool waitForFrame(stbtest::Stage &stage);
 
 } // namespace stbbench
 

@@ -37,19 +37,14 @@ struct Change
     bool comparable = true; // false where the forms show the same thing in their own way each
 };
 
-/*! When the pictures of a new item are there. */
-enum class Pictures {
-    AtOnce, // as soon as they are asked for
-    Later, // a change asks for each, and they arrive as files do, from a thread of Qt Quick's
-};
-
 /*! A control, the forms that show it and what happens to them. All forms have the same properties. */
 struct Subject
 {
     QString key; // in budgets.json and on the command line
     QList<FormSource> forms; // this module's first
-    /*! The properties of the item number index; no two items share a picture, or a text up to textNumbers. */
-    std::function<QVariantMap(int index, Pictures pictures)> content;
+    /*! The properties of the item number index, without pictures; texts are its own up to textNumbers. */
+    std::function<QVariantMap(int index)> content;
+    QString pictureProperty; // asks for a poster; empty for a control that shows none
     /*! What happens to the item number first; the changes use up the numbers before first + 10. */
     std::function<QList<Change>(int first)> changes;
     std::shared_ptr<QObject> style; // referred to by the module's form

@@ -52,30 +52,21 @@ QString rating(int index)
     return QStringLiteral("%1+").arg(10 + index % 80);
 }
 
-QVariantMap tileContent(int index, Pictures pictures)
+QVariantMap contentTileContent(int index)
 {
-    if (pictures == Pictures::Later)
-        return {};
-    return { { QStringLiteral("imageSource"), posterUrl(index) } };
-}
-
-QVariantMap contentTileContent(int index, Pictures pictures)
-{
-    QVariantMap content = tileContent(index, pictures);
+    QVariantMap content;
     content.insert(QStringLiteral("itemTitle"), title(index));
     content.insert(QStringLiteral("itemSubtitle"), subtitle(index));
     content.insert(QStringLiteral("itemStatus"), QStringLiteral("Until day %1").arg(index % textNumbers));
     return content;
 }
 
-QVariantMap vodTileContent(int index, Pictures pictures)
+QVariantMap vodTileContent(int index)
 {
-    QVariantMap content = contentTileContent(index, pictures);
+    QVariantMap content = contentTileContent(index);
     content.insert(QStringLiteral("ratingText"), rating(index));
     content.insert(QStringLiteral("mediaPositionsTimepoint"), 600.0);
     content.insert(QStringLiteral("moviePosterDuration"), 5400.0);
-    if (pictures == Pictures::AtOnce)
-        content.insert(QStringLiteral("rightholderImageSource"), logoUrl(index));
     return content;
 }
 
@@ -84,7 +75,7 @@ QList<Change> changes(int first, const QList<Change> &own)
 {
     const char *rect = "customFocusRect";
     QList<Change> list {
-        change("picture asked for", "imageSource", laterPosterUrl(first)),
+        change("picture asked for", "imageSource", posterUrl(first)),
         { QStringLiteral("picture arrived"), {}, Change::Kind::Arrival },
         { QStringLiteral("update() alone"), {}, Change::Kind::Update },
     };
@@ -96,7 +87,7 @@ QList<Change> changes(int first, const QList<Change> &own)
         change("focus, end", rect, QRect(-8, -5, 286, 162)),
         change("same rectangle again", rect, QRect(-8, -5, 286, 162)),
         change("focus gone", rect, QRect(0, 0, 270, 152)),
-        change("another picture asked for", "imageSource", laterPosterUrl(first + 1)),
+        change("another picture asked for", "imageSource", posterUrl(first + 1)),
         { QStringLiteral("another picture arrived"), {}, Change::Kind::Arrival },
     };
     return list;
@@ -116,7 +107,7 @@ QList<Change> captionChanges(int first)
 QList<Change> vodChanges(int first)
 {
     return {
-        change("logo asked for", "rightholderImageSource", laterLogoUrl(first)),
+        change("logo asked for", "rightholderImageSource", logoUrl(first)),
         { QStringLiteral("logo arrived"), {}, Change::Kind::Arrival },
         change("progress moved", "mediaPositionsTimepoint", 1200.0),
         change("progress complete", "mediaPositionsTimepoint", 5400.0),
@@ -132,6 +123,7 @@ Subject tile(const char *key, const char *element, const char *composed)
     Subject subject;
     subject.key = QString::fromLatin1(key);
     subject.style = style;
+    subject.pictureProperty = QStringLiteral("imageSource");
     subject.forms = { moduleForm(element, style), plainForm(composed), controlsForm(composed) };
     return subject;
 }
@@ -141,7 +133,7 @@ Subject tile(const char *key, const char *element, const char *composed)
 Subject expandableTile()
 {
     Subject subject = tile("expandableTile", "ExpandableTile {}", "Tile");
-    subject.content = tileContent;
+    subject.content = [](int) { return QVariantMap(); };
     subject.changes = [](int first) { return changes(first, {}); };
     return subject;
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "instructions.h"
 
+#include "forms/form.h"
+
 #include <QtCore/qcoreapplication.h>
 #include <QtCore/qprocess.h>
 #include <QtCore/qregularexpression.h>
@@ -31,29 +33,8 @@ std::optional<double> collected(const QString &fileName)
     return match.hasMatch() ? std::optional(match.captured(1).toDouble()) : std::nullopt;
 }
 
-} // namespace
-
-bool canCollect()
-{
-#ifdef STBBENCH_CALLGRIND
-    return true;
-#else
-    return false;
-#endif
-}
-
-void collectItems(const Subject &subject, Form &form, Phase phase, int count)
-{
-    const auto nothing = [](Phase) {};
-    createItems(subject, form, 0, 3, { nothing, nothing }); // what is made once is no part of an item
-    const auto toggle = [phase](Phase current) {
-        if (current == phase)
-            toggleCollection();
-    };
-    createItems(subject, form, 1000, count, { toggle, toggle });
-}
-
-std::optional<double> instructionsPerItem(const QString &key, int form, Phase phase, int count, QString *error)
+/*! Of one item in one phase, or nothing and an error text. */
+std::optional<double> instructions(const QString &key, int form, Phase phase, int count, QString *error)
 {
     const QTemporaryDir folder;
     const QString file = folder.filePath(QStringLiteral("callgrind.out"));
@@ -76,6 +57,43 @@ std::optional<double> instructionsPerItem(const QString &key, int form, Phase ph
         return std::nullopt;
     }
     return *sum / count;
+}
+
+} // namespace
+
+bool canCollect()
+{
+#ifdef STBBENCH_CALLGRIND
+    return true;
+#else
+    return false;
+#endif
+}
+
+void collectItems(const Subject &subject, Form &form, Phase phase, int count)
+{
+    const auto nothing = [](Phase) {};
+    createItems(subject, form, 0, 3, { nothing, nothing }); // what is made once is no part of an item
+    const auto toggle = [phase](Phase current) {
+        if (current == phase)
+            toggleCollection();
+    };
+    createItems(subject, form, 1000, count, { toggle, toggle });
+}
+
+std::optional<ItemTime> instructionsPerItem(const Subject &subject, int form, int count, QString *error)
+{
+    QList<Phase> phases { Phase::Create, Phase::FirstFrame };
+    if (!subject.pictureProperty.isEmpty())
+        phases.append(Phase::PictureFrame);
+    ItemTime result;
+    for (const Phase phase : phases) {
+        const std::optional<double> value = instructions(subject.key, form, phase, count, error);
+        if (!value)
+            return std::nullopt;
+        result.of(phase) = *value;
+    }
+    return result;
 }
 
 } // namespace stbbench

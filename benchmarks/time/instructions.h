@@ -17,11 +17,10 @@ bool canCollect();
 void collectItems(const Subject &subject, Form &form, Phase phase, int count);
 
 /*!
-    Runs this program again under callgrind and returns the instructions of one item of the form number \a form of
-    the subject \a key in \a phase. Nothing when valgrind fails; \a error says why.
+    Runs this program again under callgrind, once for each phase, and returns the instructions of one item of the
+    form number \a form of \a subject. Nothing when valgrind fails; \a error says why.
 */
-std::optional<double> instructionsPerItem(const QString &key, int form, Phase phase, int count,
-                                          QString *error);
+std::optional<ItemTime> instructionsPerItem(const Subject &subject, int form, int count, QString *error);
 
 } // namespace stbbench
 

@@ -18,19 +18,15 @@ struct Series
     QString form;
     QList<double> create;
     QList<double> firstFrame;
+    QList<double> pictureFrame;
+    QList<double> all;
 
     void add(const ItemTime &time)
     {
         create.append(time.create);
         firstFrame.append(time.firstFrame);
-    }
-
-    QList<double> total() const
-    {
-        QList<double> sums;
-        for (qsizetype i = 0; i < create.size(); ++i)
-            sums.append(create.at(i) + firstFrame.at(i));
-        return sums;
+        pictureFrame.append(time.pictureFrame);
+        all.append(time.create + time.firstFrame + time.pictureFrame);
     }
 };
 
@@ -43,32 +39,29 @@ double timesTheModule(const QList<double> &values, const QList<double> &own)
     return median(ratios);
 }
 
-void printLine(const char *name, const QList<QList<double>> &forms, int decimals)
+void printLine(const char *name, const QList<Series> &forms, QList<double> Series::*values, int decimals)
 {
-    std::printf("%-28s %12.*f", name, decimals, median(forms.first()));
-    for (qsizetype i = 1; i < forms.size(); ++i)
-        std::printf(" %12.*f %6.2f x", decimals, median(forms.at(i)),
-                    timesTheModule(forms.at(i), forms.first()));
+    const QList<double> &own = forms.first().*values;
+    std::printf("%-28s %12.*f", name, decimals, median(own));
+    for (qsizetype i = 1; i < forms.size(); ++i) {
+        const QList<double> &other = forms.at(i).*values;
+        std::printf(" %12.*f %6.2f x", decimals, median(other), timesTheModule(other, own));
+    }
     std::printf("\n");
 }
 
-void printTable(const QString &key, const QList<Series> &forms, int decimals)
+void printTable(const Subject &subject, const QList<Series> &forms, int decimals)
 {
-    std::printf("\n%-28s", qPrintable(key));
+    std::printf("\n%-28s", qPrintable(subject.key));
     for (const Series &series : forms)
         std::printf(&series == &forms.first() ? " %12s" : " %12s         ", qPrintable(series.form));
     std::printf("\n");
-    QList<QList<double>> create;
-    QList<QList<double>> firstFrame;
-    QList<QList<double>> both;
-    for (const Series &series : forms) {
-        create.append(series.create);
-        firstFrame.append(series.firstFrame);
-        both.append(series.total());
-    }
-    printLine("create", create, decimals);
-    printLine("first frame", firstFrame, decimals);
-    printLine("both", both, decimals);
+    printLine("create", forms, &Series::create, decimals);
+    printLine("first frame", forms, &Series::firstFrame, decimals);
+    if (!subject.pictureProperty.isEmpty())
+        printLine("frame with the picture", forms, &Series::pictureFrame, decimals);
+    printLine("all", forms, &Series::all, decimals);
+    std::fflush(stdout);
 }
 
 /*! The forms take turns in each round, and the one to begin changes, so that a slow moment meets all. */
@@ -96,7 +89,7 @@ int printTimes(const std::vector<Bench> &benches, int rounds, int items)
     std::printf("microseconds of processor time for one item; medians of %d rounds of %d items\n", rounds,
                 items);
     for (const Bench &bench : benches)
-        printTable(bench.subject.key, timeForms(bench, rounds, items), 1);
+        printTable(bench.subject, timeForms(bench, rounds, items), 1);
     return 0;
 }
 
@@ -110,22 +103,16 @@ int printInstructions(const std::vector<Bench> &benches, int items)
     for (const Bench &bench : benches) {
         QList<Series> forms;
         for (const auto &form : bench.forms) {
-            const int index = int(forms.size());
-            ItemTime counts;
-            for (const Phase phase : { Phase::Create, Phase::FirstFrame }) {
-                QString error;
-                const auto count = instructionsPerItem(bench.subject.key, index, phase, items, &error);
-                if (!count) {
-                    std::fprintf(stderr, "%s\n", qPrintable(error));
-                    return 2;
-                }
-                (phase == Phase::Create ? counts.create : counts.firstFrame) = *count;
+            QString error;
+            const auto counts = instructionsPerItem(bench.subject, int(forms.size()), items, &error);
+            if (!counts) {
+                std::fprintf(stderr, "%s\n", qPrintable(error));
+                return 2;
             }
-            forms.append({ form->name(), {}, {} });
-            forms.last().add(counts);
+            forms.append({ form->name(), {}, {}, {}, {} });
+            forms.last().add(*counts);
         }
-        printTable(bench.subject.key, forms, 0);
-        std::fflush(stdout);
+        printTable(bench.subject, forms, 0);
     }
     return 0;
 }

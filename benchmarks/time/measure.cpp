@@ -2,6 +2,7 @@
 #include "measure.h"
 
 #include "forms/form.h"
+#include "forms/pictures.h"
 #include "testkit/stage.h"
 
 #include <algorithm>
@@ -17,14 +18,38 @@ double threadMicroseconds()
     return double(time.tv_sec) * 1e6 + double(time.tv_nsec) / 1e3;
 }
 
+void paintPicture(stbtest::Stage &stage, const Meter &meter)
+{
+    if (!waitForFrame(stage))
+        qFatal("a picture does not arrive");
+    meter.begin(Phase::PictureFrame);
+    stage.renderFrame();
+    meter.end(Phase::PictureFrame);
+}
+
 } // namespace
+
+double &ItemTime::of(Phase phase)
+{
+    switch (phase) {
+    case Phase::Create:
+        return create;
+    case Phase::FirstFrame:
+        return firstFrame;
+    case Phase::PictureFrame:
+        break;
+    }
+    return pictureFrame;
+}
 
 void createItems(const Subject &subject, Form &form, int first, int count, const Meter &meter)
 {
     stbtest::Stage stage(QSize(640, 360), QColor(0x10, 0x18, 0x28));
     stage.renderFrame();
     for (int i = 0; i < count; ++i) {
-        const QVariantMap content = subject.content(first + i, Pictures::AtOnce);
+        QVariantMap content = subject.content(first + i);
+        if (!subject.pictureProperty.isEmpty())
+            content.insert(subject.pictureProperty, posterUrl(first + i));
         meter.begin(Phase::Create);
         std::unique_ptr<QQuickItem> item = form.create(content);
         item->setParentItem(stage.contentItem());
@@ -32,6 +57,8 @@ void createItems(const Subject &subject, Form &form, int first, int count, const
         meter.begin(Phase::FirstFrame);
         stage.renderFrame();
         meter.end(Phase::FirstFrame);
+        if (!subject.pictureProperty.isEmpty())
+            paintPicture(stage, meter);
         item.reset();
         stage.renderFrame();
     }
@@ -43,13 +70,11 @@ ItemTime timeItems(const Subject &subject, Form &form, int first, int count)
     double start = 0;
     Meter meter;
     meter.begin = [&start](Phase) { start = threadMicroseconds(); };
-    meter.end = [&start, &time](Phase phase) {
+    meter.end = [&start, &time, count](Phase phase) {
         const double passed = threadMicroseconds() - start;
-        (phase == Phase::Create ? time.create : time.firstFrame) += passed;
+        time.of(phase) += passed / count;
     };
     createItems(subject, form, first, count, meter);
-    time.create /= count;
-    time.firstFrame /= count;
     return time;
 }
 

@@ -11,7 +11,11 @@ namespace stbbench {
 class Form;
 struct Subject;
 
-enum class Phase { Create, FirstFrame };
+enum class Phase {
+    Create,
+    FirstFrame,
+    PictureFrame, // the frame after the picture arrived, of controls that show one
+};
 
 /*! What is done around a measured phase: the clock of timeItems(), or the collection of callgrind. */
 struct Meter
@@ -22,18 +26,19 @@ struct Meter
 
 /*!
     Creates \a count items of \a form one after the other on a stage, each with texts and pictures that none had
-    before (from number \a first on), paints the first frame of each and takes it off again, unmeasured. The
-    pictures are there at once, so that the first frame is the whole picture.
+    before (from number \a first on), and paints the first frame of each and the one that shows its picture. Waiting
+    for the picture and taking the item off again is not measured.
 */
 void createItems(const Subject &subject, Form &form, int first, int count, const Meter &meter);
 
-/*! Microseconds of this thread's processor time for one item. */
+/*! Microseconds of this thread's processor time, or its instructions, for one item. */
 struct ItemTime
 {
     double create = 0;
     double firstFrame = 0;
+    double pictureFrame = 0;
 
-    double total() const { return create + firstFrame; }
+    double &of(Phase phase);
 };
 
 /*! The mean over \a count items, as createItems() makes them. */
