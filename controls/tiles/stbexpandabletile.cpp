@@ -26,9 +26,14 @@ QRectF floatRect(const QRect &rect)
     return QRectF(left, top, rect.right() - left + 1, rect.bottom() - top + 1);
 }
 
+// The integer part, within the range of integers.
 int bounded(double value)
 {
-    return int(std::clamp<double>(value, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+    constexpr int lowest = std::numeric_limits<int>::min();
+    constexpr int highest = std::numeric_limits<int>::max();
+    if (!(value > lowest))
+        return lowest;
+    return value < highest ? int(value) : highest;
 }
 
 QColor visibleColor(const QColor &color)
@@ -161,13 +166,11 @@ void StbExpandableTile::processStateChanged(const QString &state)
 void StbExpandableTile::processValueChanged(double value)
 {
     Q_D(StbExpandableTile);
-    if (!d->m_style)
-        return;
-    if (sender() == &d->m_focusTimeLine) {
-        setCustomFocusRect(d->expandedRect(d->m_style->style().tileRect, value));
-    } else if (sender() == &d->m_fadeTimeLine) {
-        d->m_imageOpacity = value;
+    if (sender() == &d->m_fadeTimeLine) {
+        d->m_imageOpacity = value; // without a style too: a picture must not stay half transparent
         update();
+    } else if (sender() == &d->m_focusTimeLine && d->m_style) {
+        setCustomFocusRect(d->expandedRect(d->m_style->style().tileRect, value));
     }
 }
 

@@ -9,7 +9,10 @@
 #include "testkit/stage.h"
 
 #include <QtCore/qbuffer.h>
+#include <QtCore/qregularexpression.h>
+#include <QtCore/qscopeguard.h>
 #include <QtCore/qtemporarydir.h>
+#include <QtGui/qimagereader.h>
 #include <QtNetwork/qnetworkaccessmanager.h>
 #include <QtQml/qqmlcontext.h>
 #include <QtQml/qqmlnetworkaccessmanagerfactory.h>
@@ -219,6 +222,22 @@ private Q_SLOTS:
         scene.stage.renderFrame();
         QVERIFY(!scene.item.node);
         QVERIFY(scene.item.picture.size().isEmpty());
+    }
+
+    void aPictureAboveTheMemoryLimitStaysEmpty()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("huge.png");
+        QVERIFY(filled(QSize(2001, 1001), Qt::blue).save(path));
+        const int limit = QImageReader::allocationLimit();
+        QImageReader::setAllocationLimit(1); // MiB; the picture takes almost eight
+        const auto restore = qScopeGuard([limit] { QImageReader::setAllocationLimit(limit); });
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("exceeds the current allocation limit"));
+        Scene scene;
+        QVERIFY(scene.item.load(QUrl::fromLocalFile(path)));
+        QTRY_COMPARE(scene.item.finishedCount, 1);
+        scene.stage.renderFrame();
+        QVERIFY(!scene.item.node);
     }
 
     void aProviderWithoutThePictureEndsTheLoad()

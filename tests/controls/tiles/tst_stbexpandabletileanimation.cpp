@@ -360,6 +360,18 @@ private Q_SLOTS:
         QCOMPARE(scene.fading().currentTime(), 0);
     }
 
+    void aFadeEndsThoughTheStyleGoesOnTheWay()
+    {
+        FadingScene scene;
+        QVERIFY(scene.show(fieldsPicture()));
+        advance(scene.fading(), 0.5);
+        scene.tile->setStyle(nullptr);
+        finish(scene.fading());
+        scene.tile->setStyle(&scene.style);
+        scene.stage.renderFrame();
+        QCOMPARE(scene.types(), (QStringList { "Image", "InternalRectangle" }));
+    }
+
     void aFailureFadesNothing()
     {
         FadingScene scene;

@@ -102,6 +102,8 @@ private Q_SLOTS:
                     " state: ListView.isCurrentItem ? 'focused' : 'normal' } }");
         for (StbExpandableTile *tile : scene.tiles)
             finish(tilePrivate(tile)->m_focusTimeLine);
+        QCOMPARE(scene.tiles[0]->state(), "focused");
+        QCOMPARE(scene.tiles[0]->customFocusRect(), QRect(-23, -17, 253, 161));
         scene.list->setProperty("currentIndex", 2);
         QCOMPARE(scene.tiles[2]->state(), "focused");
         finish(tilePrivate(scene.tiles[2])->m_focusTimeLine);
