@@ -3,12 +3,32 @@
 
 #include <QtQuick/private/qquickitem_p.h>
 #include <QtQuick/private/qquickwindow_p.h>
+#include <QtQuick/private/qsgcontext_p.h>
 #include <QtQuick/private/qsgsoftwarerenderer_p.h>
 #include <QtQuick/qquickrendercontrol.h>
 #include <QtQuick/qquickrendertarget.h>
 #include <QtQuick/qquickwindow.h>
 
+#include <utility>
+
 namespace stbtest {
+
+namespace {
+
+// The textures that a render context keeps for pictures. Before Qt 6.8 the software adaptation's never deletes
+// those that are left when their window goes, and the leak checker would blame the tests for it.
+#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
+struct LeftTextures : QSGRenderContext
+{
+    static void clear(QSGRenderContext *context)
+    {
+        qDeleteAll(std::exchange(context->*(&LeftTextures::m_textures), {}));
+        qDeleteAll(std::exchange(context->*(&LeftTextures::m_texturesToDelete), {}));
+    }
+};
+#endif
+
+} // namespace
 
 struct Stage::Private
 {
@@ -18,6 +38,14 @@ struct Stage::Private
     {
         picture.fill(Qt::transparent);
     }
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
+    ~Private()
+    {
+        LeftTextures::clear(QQuickWindowPrivate::get(&window)->context);
+    }
+    Q_DISABLE_COPY_MOVE(Private)
+#endif
 
     QSGSoftwareRenderer *renderer()
     {
