@@ -37,8 +37,13 @@ qt_add_qml_module(${module}
         controls/buttons/stbbuttonlayout.cpp controls/buttons/stbbuttonlayout.h
         controls/buttons/stbbuttonwithcheckindicator.cpp controls/buttons/stbbuttonwithcheckindicator.h
         controls/buttons/stbbuttonwithcheckindicator_p.h
+        controls/epg/stbepgdate.cpp controls/epg/stbepgdate.h controls/epg/stbepgdate_p.h
+        controls/epg/stbepgdatelayout.cpp controls/epg/stbepgdatelayout.h
         controls/epg/stbepgviewdelegate.cpp controls/epg/stbepgviewdelegate.h controls/epg/stbepgviewdelegate_p.h
         controls/epg/stbepgviewdelegatelayout.cpp controls/epg/stbepgviewdelegatelayout.h
+        controls/epg/stbhorizontalepgviewdelegate.cpp controls/epg/stbhorizontalepgviewdelegate.h
+        controls/epg/stbhorizontalepgviewdelegate_p.h
+        controls/epg/stbhorizontalepgviewdelegatelayout.cpp controls/epg/stbhorizontalepgviewdelegatelayout.h
         controls/propertysetters.h
         controls/stylereference.h
         controls/tiles/stbcontenttile.cpp controls/tiles/stbcontenttile.h controls/tiles/stbcontenttile_p.h

@@ -58,8 +58,10 @@ private Q_SLOTS:
         QTest::newRow("Button") << "StbButton";
         QTest::newRow("ButtonWithCheckIndicator") << "StbButtonWithCheckIndicator";
         QTest::newRow("ContentTile") << "StbContentTile";
+        QTest::newRow("EpgDate") << "StbEpgDate";
         QTest::newRow("EpgViewDelegate") << "StbEpgViewDelegate";
         QTest::newRow("ExpandableTile") << "StbExpandableTile";
+        QTest::newRow("HorizontalEpgViewDelegate") << "StbHorizontalEpgViewDelegate";
         QTest::newRow("VodTile") << "StbVodTile";
     }
     void everyElementHasItsName()
@@ -149,7 +151,10 @@ private Q_SLOTS:
                "StbEpgViewDelegate*", "QQmlListProperty<StbEpgViewDelegate>", "QQuickItem*",
                "QQmlListProperty<QQuickItem>", "qml::QmlSettings*",
                "design_system::PlayerEpgDelegateQmlStyle*", "StbExpandableTile*",
-               "QQmlListProperty<StbExpandableTile>", "design_system::TileQmlStyle*" })
+               "QQmlListProperty<StbExpandableTile>", "design_system::TileQmlStyle*", "StbEpgDate*",
+               "QQmlListProperty<StbEpgDate>", "design_system::PlayerEpgDateQmlStyle*",
+               "StbHorizontalEpgViewDelegate*", "QQmlListProperty<StbHorizontalEpgViewDelegate>",
+               "design_system::PlayerHorizontalEpgViewQmlStyle*" })
             QVERIFY2(QMetaType::fromName(name).isValid(), name);
     }
 

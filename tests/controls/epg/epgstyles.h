@@ -2,7 +2,9 @@
 #ifndef STBTEST_EPGSTYLES_H
 #define STBTEST_EPGSTYLES_H
 
+#include <design_system/playerepgdatestyle.h>
 #include <design_system/playerepgdelegatestyle.h>
+#include <design_system/playerhorizontalepgviewstyle.h>
 
 #include <QtCore/qcoreapplication.h>
 #include <QtCore/qtranslator.h>
@@ -72,6 +74,87 @@ inline design_system::PlayerEpgDelegateStyle otherEpgStyle()
     style.liveStartTimeColor = QColor(41, 231, 51);
     style.unavailableTextColor = QColor(151, 103, 157);
     style.playableTextColor = QColor(1, 201, 203);
+    return style;
+}
+
+/*! The same for a programme of the player's list: 295 pixels remain for the texts, which begin at 163. */
+inline design_system::PlayerHorizontalEpgViewStyle oddHorizontalEpgStyle()
+{
+    design_system::PlayerHorizontalEpgViewStyle style;
+    style.delegateRect = QRect(501, 503, 487, 509);
+    style.backgroundColor = QColor(33, 43, 73);
+    style.leftPadding = 13;
+    style.rightPadding = 29;
+    style.imageTextSpacing = 19;
+    style.imageRect = QRect(511, 513, 131, 75);
+    style.dateStyle.font = pixelFont(15);
+    style.dateStyle.maxLineCount = 1;
+    style.dateStyle.color = QColor(1, 1, 1);
+    style.dateColor = QColor(91, 191, 241);
+    style.titleStyle.font = pixelFont(25);
+    style.titleStyle.maxLineCount = 2;
+    style.titleStyle.alignment = Qt::AlignHCenter;
+    style.titleStyle.color = QColor(2, 2, 2);
+    style.titleColor = QColor(251, 249, 231);
+    style.dateTitleGap = 5;
+    style.descriptionStyle.font = pixelFont(17);
+    style.descriptionStyle.maxLineCount = 3;
+    style.descriptionStyle.alignment = Qt::AlignRight;
+    style.descriptionStyle.color = QColor(3, 3, 3);
+    style.descriptionColor = QColor(151, 163, 173);
+    style.titleDescriptionGap = 11;
+    return style;
+}
+
+/*! Another value for every field that a programme of the player's list reads. */
+inline design_system::PlayerHorizontalEpgViewStyle otherHorizontalEpgStyle()
+{
+    design_system::PlayerHorizontalEpgViewStyle style;
+    style.delegateRect = QRect(1, 3, 401, 5);
+    style.backgroundColor = QColor(73, 23, 13, 201);
+    style.leftPadding = 31;
+    style.rightPadding = 7;
+    style.imageTextSpacing = 9;
+    style.imageRect = QRect(5, 7, 97, 103);
+    style.dateStyle.font = pixelFont(17);
+    style.dateStyle.maxLineCount = 2;
+    style.dateColor = QColor(241, 91, 41);
+    style.titleStyle.font = pixelFont(17);
+    style.titleStyle.maxLineCount = 1;
+    style.titleColor = QColor(201, 251, 131);
+    style.dateTitleGap = 15;
+    style.descriptionStyle.font = pixelFont(15);
+    style.descriptionStyle.maxLineCount = 2;
+    style.descriptionColor = QColor(243, 143, 203);
+    style.titleDescriptionGap = 3;
+    return style;
+}
+
+/*! The same for a day of the row of days. */
+inline design_system::PlayerEpgDateStyle oddEpgDateStyle()
+{
+    design_system::PlayerEpgDateStyle style;
+    style.monthStyle.font = pixelFont(17);
+    style.monthStyle.maxLineCount = 1;
+    style.monthStyle.color = QColor(1, 1, 1);
+    style.monthColor = QColor(151, 163, 173);
+    style.dayStyle.font = pixelFont(29);
+    style.dayStyle.maxLineCount = 1;
+    style.dayStyle.color = QColor(2, 2, 2);
+    style.dayActiveColor = QColor(91, 191, 241);
+    style.dayInactiveColor = QColor(251, 249, 231);
+    return style;
+}
+
+/*! Another value for every field that a day reads. */
+inline design_system::PlayerEpgDateStyle otherEpgDateStyle()
+{
+    design_system::PlayerEpgDateStyle style;
+    style.monthStyle.font = pixelFont(25);
+    style.monthColor = QColor(241, 91, 41);
+    style.dayStyle.font = pixelFont(15);
+    style.dayActiveColor = QColor(201, 251, 131);
+    style.dayInactiveColor = QColor(243, 143, 203);
     return style;
 }
 
