@@ -3,9 +3,10 @@
 
 #include "app/keyrun.h"
 #include "app/languages.h"
-#include "gallery/data/clock.h"
+#include "gallery/data/catalogueloader.h"
 #include "gallery/data/ownguide.h"
-#include "screens/guidecontroller.h"
+#include "screens/pictureprovider.h"
+#include "screens/shellcontroller.h"
 
 #include <QtCore/qdir.h>
 #include <QtCore/qtextstream.h>
@@ -83,11 +84,16 @@ void prepareEnvironment(const Options &options)
 Application::Application(const Options &options, QObject *parent)
     : QObject(parent)
     , m_options(options)
-    , m_clock(std::make_unique<Clock>())
-    , m_guide(std::make_unique<GuideController>(m_clock.get()))
+    , m_shell(std::make_unique<ShellController>())
+    , m_catalogueLoader(std::make_unique<CatalogueLoader>())
 {
     if (m_options.now.isValid())
-        m_clock->setFixed(m_options.now);
+        m_shell->clock()->setFixed(m_options.now);
+    m_screens = screenNames();
+    if (!m_options.screen.isEmpty())
+        m_screens = QStringList { m_options.screen };
+    else if (!wantsPictures(m_options))
+        m_screens = QStringList { m_screens.constFirst() };
 }
 
 Application::~Application() = default;
@@ -97,6 +103,9 @@ bool Application::start()
     setUpConfiguration();
     if (!setUpLanguage() || !setUpView())
         return false;
+    m_shell->start(m_screens.constFirst());
+    m_loading = 2;
+    loadCatalogue();
     loadGuide();
     return true;
 }
@@ -127,7 +136,7 @@ bool Application::setUpLanguage()
         return false;
     }
     const auto mirror = [this] {
-        m_guide->setMirrored(QGuiApplication::layoutDirection() == Qt::RightToLeft);
+        m_shell->setMirrored(QGuiApplication::layoutDirection() == Qt::RightToLeft);
     };
     connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this, mirror);
     mirror();
@@ -141,16 +150,17 @@ bool Application::setUpView()
     for (const QString &folder : folders)
         m_view->engine()->addImportPath(folder);
     m_view->engine()->addImportPath(u"qrc:/"_s);
-    m_view->setTitle(QCoreApplication::translate("ScreenHeader", "TV guide"));
+    m_view->engine()->addImageProvider(PictureProvider::name(), new PictureProvider);
+    m_view->setTitle(QCoreApplication::applicationName());
     m_view->setResizeMode(QQuickView::SizeViewToRootObject);
-    m_view->setInitialProperties({ { u"guide"_s, QVariant::fromValue(m_guide.get()) } });
-    m_view->setSource(QUrl(u"qrc:/Gallery/GuideScreen.qml"_s));
+    m_view->setInitialProperties({ { u"controller"_s, QVariant::fromValue(m_shell.get()) } });
+    m_view->setSource(QUrl(u"qrc:/Gallery/Shell.qml"_s));
     if (m_view->status() != QQuickView::Ready) {
         const QList<QQmlError> errors = m_view->errors();
-        m_error = errors.isEmpty() ? u"the screen cannot be loaded"_s : errors.constFirst().toString();
+        m_error = errors.isEmpty() ? u"the screens cannot be loaded"_s : errors.constFirst().toString();
         return false;
     }
-    connect(m_guide.get(), &GuideController::leaveRequested, this, [this] {
+    connect(m_shell.get(), &ShellController::leaveRequested, this, [this] {
         if (!wantsPictures(m_options))
             Q_EMIT finished(ExitCode::Success);
     });
@@ -159,28 +169,66 @@ bool Application::setUpView()
 
 void Application::loadGuide()
 {
-    connect(m_guide.get(), &GuideController::guideShown, this, &Application::showScreen, Qt::QueuedConnection);
+    GuideController *guide = m_shell->guide();
+    connect(guide, &GuideController::guideShown, this, &Application::finishLoading,
+            Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
     if (m_options.guideFile.isEmpty()) {
-        m_guide->setGuide(ownGuide(m_clock->now(), m_language));
+        guide->setGuide(ownGuide(m_shell->clock()->now(), m_language));
         return;
     }
-    m_guide->load(m_options.guideFile, m_language);
+    guide->load(m_options.guideFile, m_language);
     // A file that is no guide is refused without a window flashing up; a long one shows its progress soon.
     QTimer::singleShot(200, m_view.get(), &QWindow::show);
 }
 
-void Application::showScreen()
+void Application::loadCatalogue()
 {
-    disconnect(m_guide.get(), &GuideController::guideShown, this, nullptr);
-    const bool unreadable = m_guide->report().outcome == GuideReport::Outcome::Unreadable;
-    if (!m_options.guideFile.isEmpty() && unreadable) {
-        fail(ExitCode::Usage, m_guide->report().error);
+    if (m_options.catalogueFile.isEmpty()) {
+        m_shell->home()->setCatalogue(ownCatalogue(m_language));
+        --m_loading;
         return;
     }
+    connect(m_catalogueLoader.get(), &CatalogueLoader::finished, this, [this] {
+        m_shell->home()->setCatalogue(m_catalogueLoader->catalogue());
+        finishLoading();
+    });
+    m_catalogueLoader->load(m_options.catalogueFile, m_language);
+}
+
+void Application::finishLoading()
+{
+    if (--m_loading > 0 || !tellProblems())
+        return;
     m_view->show();
-    auto *run = new KeyRun(m_options.keys, m_view.get());
-    connect(run, &KeyRun::finished, this, &Application::finishPicture);
-    run->start();
+    showScreen(m_screens.constFirst());
+}
+
+bool Application::tellProblems()
+{
+    const GuideReport guide = m_shell->guide()->report();
+    if (!m_options.guideFile.isEmpty() && guide.outcome == GuideReport::Outcome::Unreadable) {
+        fail(ExitCode::Usage, guide.error);
+        return false;
+    }
+    const CatalogueReport catalogue = m_catalogueLoader->report();
+    if (catalogue.outcome == CatalogueReport::Outcome::Unreadable) {
+        fail(ExitCode::Usage, catalogue.error);
+        return false;
+    }
+    const QStringList messages = catalogue.messages(m_options.catalogueFile);
+    for (const QString &message : messages)
+        printError(message);
+    return true;
+}
+
+void Application::showScreen(const QString &name)
+{
+    // Whoever has gone on to another screen while files were read stays there; a picture starts anew.
+    if (wantsPictures(m_options) || m_shell->screen() != name)
+        m_shell->start(name);
+    m_keyRun = std::make_unique<KeyRun>(m_options.keys, m_view.get());
+    connect(m_keyRun.get(), &KeyRun::finished, this, &Application::finishScreen, Qt::QueuedConnection);
+    m_keyRun->start();
 }
 
 void Application::fail(ExitCode code, const QString &message)
@@ -195,21 +243,30 @@ bool Application::hasWantedRenderer() const
     return m_options.backend.isEmpty() || software == (m_options.backend == "software"_L1);
 }
 
-void Application::finishPicture()
+void Application::finishScreen()
 {
     if (!hasWantedRenderer()) {
         fail(ExitCode::Failure, u"the renderer \"%1\" is not available here"_s.arg(m_options.backend));
         return;
     }
-    if (!wantsPictures(m_options))
+    if (!wantsPictures(m_options) || !writePicture())
         return;
-    const QString path = QDir(m_options.screenshotsFolder).filePath(u"guide.png"_s);
+    m_screens.removeFirst();
+    if (m_screens.isEmpty())
+        Q_EMIT finished(ExitCode::Success);
+    else
+        showScreen(m_screens.constFirst());
+}
+
+bool Application::writePicture()
+{
+    const QString path = QDir(m_options.screenshotsFolder).filePath(m_screens.constFirst() + u".png"_s);
     if (!m_view->grabWindow().save(path)) {
         fail(ExitCode::Failure, u"cannot write \"%1\""_s.arg(path));
-        return;
+        return false;
     }
     QTextStream(stdout) << path << Qt::endl;
-    Q_EMIT finished(ExitCode::Success);
+    return true;
 }
 
 int runGallery(int &argc, char **argv)

@@ -13,8 +13,9 @@ class QQuickView;
 
 namespace gallery {
 
-class Clock;
-class GuideController;
+class CatalogueLoader;
+class KeyRun;
+class ShellController;
 
 /*!
     Sets the environment that a run needs before the application object is made: pictures are rendered without a
@@ -23,7 +24,7 @@ class GuideController;
 void prepareEnvironment(const Options &options);
 
 /*!
-    One run of the gallery: configuration, language, guide and the window with the screen. Needs a
+    One run of the gallery: configuration, language, guide, catalogue and the window with the screens. Needs a
     QGuiApplication.
 */
 class Application : public QObject
@@ -34,13 +35,13 @@ public:
     ~Application() override;
 
     /*!
-        Builds the window and starts to read the guide. False when that is impossible; error() tells why then.
+        Builds the window and starts to read guide and catalogue. False when that is impossible; error() tells why then.
         The run ends with finished(), never from within this function.
     */
     bool start();
     QString error() const { return m_error; }
 
-    GuideController *guide() const { return m_guide.get(); }
+    ShellController *shell() const { return m_shell.get(); }
     QQuickView *view() const { return m_view.get(); }
 
 Q_SIGNALS:
@@ -51,18 +52,25 @@ private:
     bool setUpLanguage();
     bool setUpView();
     void loadGuide();
+    void loadCatalogue();
+    void finishLoading();
+    bool tellProblems();
     bool hasWantedRenderer() const;
-    void showScreen();
-    void finishPicture();
+    void showScreen(const QString &name);
+    void finishScreen();
+    bool writePicture();
     void fail(ExitCode code, const QString &message);
 
     Options m_options;
     RunConfiguration m_configuration;
     QString m_language;
     QString m_error;
-    std::unique_ptr<Clock> m_clock;
-    std::unique_ptr<GuideController> m_guide;
+    QStringList m_screens; // still to be shown, the present one first
+    int m_loading = 0; // files that are being read
+    std::unique_ptr<ShellController> m_shell;
+    std::unique_ptr<CatalogueLoader> m_catalogueLoader;
     std::unique_ptr<QQuickView> m_view;
+    std::unique_ptr<KeyRun> m_keyRun;
 };
 
 /*! The whole program: reads \a arguments, runs, and returns the exit code. */

@@ -2,17 +2,28 @@
 #include "app/keyrun.h"
 
 #include <QtCore/qcoreapplication.h>
-#include <QtCore/qtimer.h>
 #include <QtGui/qevent.h>
 #include <QtQuick/qquickwindow.h>
 
 namespace gallery {
+
+namespace {
+
+// A picture that does not change for the first time is taken for finished, one that still does after the second.
+constexpr int restTime = 300;
+constexpr int longestWait = 5000;
+
+} // namespace
 
 KeyRun::KeyRun(const QList<Qt::Key> &keys, QQuickWindow *window)
     : QObject(window)
     , m_keys(keys)
     , m_window(window)
 {
+    m_rest.setSingleShot(true);
+    m_limit.setSingleShot(true);
+    connect(&m_rest, &QTimer::timeout, this, &KeyRun::finish);
+    connect(&m_limit, &QTimer::timeout, this, &KeyRun::finish);
 }
 
 void KeyRun::start()
@@ -43,9 +54,9 @@ void KeyRun::next()
     if (m_finished)
         return;
     if (m_keys.isEmpty()) {
-        m_finished = true;
-        disconnect(m_frames);
-        Q_EMIT finished();
+        m_rest.start(restTime);
+        if (!m_limit.isActive())
+            m_limit.start(longestWait);
         return;
     }
     const Qt::Key key = m_keys.takeFirst();
@@ -54,6 +65,15 @@ void KeyRun::next()
     QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier);
     QCoreApplication::sendEvent(m_window, &release);
     m_window->update();
+}
+
+void KeyRun::finish()
+{
+    m_finished = true;
+    m_rest.stop();
+    m_limit.stop();
+    disconnect(m_frames);
+    Q_EMIT finished();
 }
 
 } // namespace gallery

@@ -4,6 +4,7 @@
 
 #include <QtCore/qlist.h>
 #include <QtCore/qobject.h>
+#include <QtCore/qtimer.h>
 
 class QQuickWindow;
 
@@ -24,16 +25,22 @@ public:
     void start();
 
 Q_SIGNALS:
-    /*! All keys are handled and the picture that came of them has been rendered. */
+    /*!
+        All keys are handled, and the picture that came of them has been rendered and does not change any more:
+        the pictures of tiles come in from other threads. A picture that always moves counts after a while.
+    */
     void finished();
 
 private:
     void begin();
     void next();
+    void finish();
 
     QList<Qt::Key> m_keys;
     QQuickWindow *m_window;
     QMetaObject::Connection m_frames;
+    QTimer m_rest;
+    QTimer m_limit;
     bool m_begun = false;
     bool m_finished = false;
 };

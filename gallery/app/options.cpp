@@ -3,6 +3,7 @@
 
 #include "app/languages.h"
 #include "app/remotekeys.h"
+#include "screens/shellcontroller.h"
 
 #include <QtCore/qcommandlineparser.h>
 #include <QtCore/qdir.h>
@@ -24,11 +25,13 @@ struct OptionText
 };
 
 constexpr OptionText guideOption { "guide"_L1, "Programme guide to show: XMLTV, plain or .gz."_L1, "file"_L1 };
+constexpr OptionText catalogueOption { "catalogue"_L1, "Films and series to show: JSON."_L1, "file"_L1 };
 constexpr OptionText nowOption { "now"_L1, "Take this ISO 8601 time for the present."_L1, "date-time"_L1 };
-constexpr OptionText screenOption { "screen"_L1, "Screen to show: guide."_L1, "name"_L1 };
+constexpr OptionText screenOption { "screen"_L1, "Screen to show: home, detail or guide."_L1, "name"_L1 };
 constexpr OptionText keysOption { "keys"_L1, "Press these remote keys at start: \"Down Down Return\"."_L1,
                                   "keys"_L1 };
-constexpr OptionText screenshotsOption { "screenshots"_L1, "Write a PNG of each screen, and end."_L1,
+constexpr OptionText screenshotsOption { "screenshots"_L1,
+                                         "Write a PNG of the screen, or of each one, and end."_L1,
                                          "folder"_L1 };
 constexpr OptionText themeOption { "theme"_L1, "Theme file to use."_L1, "file"_L1 };
 constexpr OptionText resolutionOption { "resolution"_L1, "Design size: hd, fullhd or sd."_L1, "name"_L1 };
@@ -181,6 +184,7 @@ CommandLine checked(const QCommandLineParser &parser)
     options.backend = check.choice(backendOption, { u"software"_s, u"rhi"_s });
     options.language = check.choice(languageOption, languageCodes());
     options.guideFile = check.readableFile(guideOption);
+    options.catalogueFile = check.readableFile(catalogueOption);
     options.themeFile = check.readableFile(themeOption);
     options.screenshotsFolder = check.writableFolder(screenshotsOption);
     return check.error().isEmpty() ? result : finished(ExitCode::Usage, check.error());
@@ -190,7 +194,7 @@ CommandLine checked(const QCommandLineParser &parser)
 
 QStringList screenNames()
 {
-    return { u"guide"_s };
+    return ShellController::screenNames();
 }
 
 CommandLine parseCommandLine(const QStringList &arguments)
@@ -200,8 +204,8 @@ CommandLine parseCommandLine(const QStringList &arguments)
             u"Shows the controls of Stbui.UI.Qml.Controls.Basic as a TV application."_s);
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     for (const OptionText &option :
-         { guideOption, nowOption, screenOption, keysOption, screenshotsOption, themeOption, resolutionOption,
-           backendOption, languageOption, helpOption, versionOption })
+         { guideOption, catalogueOption, nowOption, screenOption, keysOption, screenshotsOption, themeOption,
+           resolutionOption, backendOption, languageOption, helpOption, versionOption })
         addOption(parser, option);
     if (!parser.parse(arguments))
         return finished(ExitCode::Usage, parser.errorText());

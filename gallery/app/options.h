@@ -15,8 +15,10 @@ namespace gallery {
 struct Options
 {
     QString guideFile;
+    QString catalogueFile;
     /*! The time that the screens take for the present; the clock stands still then. Invalid: the real time. */
     QDateTime now;
+    /*! Empty: the first one, and pictures of all. */
     QString screen;
     QList<Qt::Key> keys;
     QString screenshotsFolder;

@@ -10,6 +10,7 @@ ListView {
     cacheBuffer: 0
     highlightFollowsCurrentItem: false
     onCurrentItemChanged: positionViewAtIndex(currentIndex, ListView.Center)
+    onHeightChanged: positionViewAtIndex(currentIndex, ListView.Center)
     delegate: Item {
         id: row
 

@@ -19,8 +19,7 @@ Item {
     }
 
     component Fade: Rectangle {
-        anchors.left: parent.left
-        anchors.right: parent.right
+        width: parent.width
         height: Look.huge
         gradient: Gradient {
             GradientStop {

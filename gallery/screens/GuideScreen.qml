@@ -8,11 +8,7 @@ FocusScope {
 
     required property GuideController guide
 
-    width: Look.screenWidth
-    height: Look.screenHeight
     focus: true
-    LayoutMirroring.enabled: guide.mirrored
-    LayoutMirroring.childrenInherit: true
     Keys.onPressed: event => event.accepted = guide.press(event.key)
 
     Binding {

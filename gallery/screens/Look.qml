@@ -24,6 +24,13 @@ QtObject {
     readonly property int huge: Math.round(40 * unit)
     readonly property int radius: Math.round(8 * unit)
     readonly property int barHeight: Math.round(4 * unit)
+    // Around what has the focus and keeps its own colours.
+    readonly property int frame: Math.round(4 * unit)
+    // Room for a right holder's mark.
+    readonly property int logoWidth: Math.round(72 * unit)
+    readonly property int logoHeight: Math.round(32 * unit)
+    // How long a list takes to its new place, in milliseconds.
+    readonly property int scrollTime: QmlDesignSystem.animation.duration
 
     readonly property font headline: QmlDesignSystem.unscaledFont(FontHd.H2, FontSd.H2)
     readonly property font heading: QmlDesignSystem.unscaledFont(FontHd.H4, FontSd.H4)
@@ -34,6 +41,8 @@ QtObject {
     // The linter of Qt 6.4 does not know the colours and rectangles of a module that is written in C++.
     // qmllint disable type
     readonly property color backdrop: QmlDesignSystem.colors.oslo
+    // Over a picture that texts may touch.
+    readonly property color veil: Qt.rgba(backdrop.r, backdrop.g, backdrop.b, 0.25)
     readonly property color surface: QmlDesignSystem.colors.bamako
     readonly property color raised: QmlDesignSystem.colors.bogota
     readonly property color text: QmlDesignSystem.colors.sochi
@@ -43,6 +52,7 @@ QtObject {
     readonly property color focus: QmlDesignSystem.colors.quito
     readonly property color textOnFocus: QmlDesignSystem.colors.oslo
 
+    readonly property int captionSpacing: QmlDesignSystem.contentTileStyle.style.captionSpacing
     readonly property rect rowTextArea: QmlDesignSystem.playerEpgDelegateStyle.style.previewRect
     // qmllint enable type
 

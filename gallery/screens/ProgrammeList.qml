@@ -18,6 +18,7 @@ ListView {
     // highlight gets there in steps of an animation, and is elsewhere when a key comes in between.
     highlightFollowsCurrentItem: false
     onCurrentItemChanged: positionViewAtIndex(currentIndex, ListView.Center)
+    onHeightChanged: positionViewAtIndex(currentIndex, ListView.Center)
     delegate: Item {
         id: row
 

@@ -2,6 +2,7 @@
 #include "screens/guidecontroller.h"
 
 #include "gallery/data/clock.h"
+#include "screens/remotekey.h"
 
 #include <QtCore/qcoreapplication.h>
 #include <QtCore/qlocale.h>
@@ -11,20 +12,6 @@
 using namespace Qt::StringLiterals;
 
 namespace gallery {
-
-namespace {
-
-bool isBackKey(int key)
-{
-    return key == Qt::Key_Back || key == Qt::Key_Escape || key == Qt::Key_Backspace;
-}
-
-bool isSelectKey(int key)
-{
-    return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Select;
-}
-
-} // namespace
 
 GuideController::GuideController(Clock *clock, QObject *parent)
     : QObject(parent)
@@ -48,13 +35,19 @@ void GuideController::setGuide(const Guide &guide)
 {
     m_channels.setGuide(guide);
     m_programmes.setGuide(guide);
+    start();
+    Q_EMIT guideShown();
+}
+
+void GuideController::start()
+{
+    setDetailsOpen(false);
     m_channels.setNow(m_clock->now());
     m_programmes.setNow(m_clock->now());
-    m_channelRow = firstChannelOnAir(guide);
+    m_channelRow = firstChannelOnAir(shownGuide());
     m_programmes.select(m_channelRow, m_clock->now().date());
     chooseNow();
     Q_EMIT nowChanged();
-    Q_EMIT guideShown();
 }
 
 int GuideController::firstChannelOnAir(const Guide &guide) const
@@ -76,6 +69,11 @@ QString GuideController::channelNameAt(int row) const
 {
     const bool exists = row >= 0 && row < m_channels.count();
     return exists ? m_channels.guide().channel(row).name : QString();
+}
+
+QString GuideController::channelNameBeside(int key) const
+{
+    return channelNameAt(m_channelRow + readingStep(key, m_mirrored));
 }
 
 QVariant GuideController::chosen(ProgrammeModel::Role role) const
@@ -135,11 +133,6 @@ void GuideController::setMirrored(bool mirrored)
     Q_EMIT selectionChanged();
 }
 
-int GuideController::channelStep(int key) const
-{
-    return (key == Qt::Key_Right) == m_mirrored ? -1 : 1;
-}
-
 bool GuideController::press(int key)
 {
     if (isSelectKey(key)) {
@@ -171,7 +164,7 @@ bool GuideController::press(int key)
         return true;
     case Qt::Key_Left:
     case Qt::Key_Right:
-        chooseChannel(m_channelRow + channelStep(key));
+        chooseChannel(m_channelRow + readingStep(key, m_mirrored));
         return true;
     default:
         return false;

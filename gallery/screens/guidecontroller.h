@@ -68,8 +68,11 @@ public:
 
     /*! Reads the guide \a fileName, choosing texts in \a language, and shows it; see GuideLoader. */
     void load(const QString &fileName, const QString &language);
-    /*! Shows \a guide: the first channel that has something on now, and the programme that is on. */
+    /*! Shows \a guide from its start. */
     void setGuide(const Guide &guide);
+    Guide shownGuide() const { return m_channels.guide(); }
+    /*! As at the start: the first channel that has something on now, and the programme that is on. */
+    void start();
     /*! What the last reading gave. */
     GuideReport report() const { return m_loader.report(); }
 
@@ -80,8 +83,8 @@ public:
 
     QString channelName() const { return channelNameAt(m_channelRow); }
     QString channelNumber() const;
-    QString leftChannelName() const { return channelNameAt(m_channelRow + channelStep(Qt::Key_Left)); }
-    QString rightChannelName() const { return channelNameAt(m_channelRow + channelStep(Qt::Key_Right)); }
+    QString leftChannelName() const { return channelNameBeside(Qt::Key_Left); }
+    QString rightChannelName() const { return channelNameBeside(Qt::Key_Right); }
 
     QString title() const { return chosen(ProgrammeModel::TitleRole).toString(); }
     QString subtitle() const { return chosen(ProgrammeModel::SubtitleRole).toString(); }
@@ -131,7 +134,7 @@ Q_SIGNALS:
 private:
     QVariant chosen(ProgrammeModel::Role role) const;
     QString channelNameAt(int row) const;
-    int channelStep(int key) const;
+    QString channelNameBeside(int key) const;
     int firstChannelOnAir(const Guide &guide) const;
     void chooseChannel(int row);
     void chooseProgramme(int row);

@@ -2,6 +2,45 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ar_AE" sourcelanguage="en">
 <context>
+    <name>DetailScreen</name>
+    <message>
+        <source>Watch</source>
+        <translation>شاهد</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>متابعة</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>تشغيل</translation>
+    </message>
+    <message>
+        <source>In favourites</source>
+        <translation>في المفضلة</translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation>إضافة إلى المفضلة</translation>
+    </message>
+    <message>
+        <source>Trailer</source>
+        <translation>الإعلان الترويجي</translation>
+    </message>
+    <message>
+        <source>TV guide</source>
+        <translation>دليل البرامج</translation>
+    </message>
+    <message>
+        <source>Like</source>
+        <translation>أعجبني</translation>
+    </message>
+    <message>
+        <source>There is no player in this gallery.</source>
+        <translation>لا يوجد مشغّل في هذا المعرض.</translation>
+    </message>
+</context>
+<context>
     <name>GuideScreen</name>
     <message>
         <source>There are no channels in this guide</source>
@@ -58,10 +97,71 @@
     </message>
 </context>
 <context>
+    <name>HomeHeader</name>
+    <message>
+        <source>Home</source>
+        <translation>الرئيسية</translation>
+    </message>
+    <message>
+        <source>TV guide</source>
+        <translation>دليل البرامج</translation>
+    </message>
+    <message>
+        <source>Press BACK again to leave</source>
+        <translation>اضغط «رجوع» مرة أخرى للخروج</translation>
+    </message>
+</context>
+<context>
+    <name>HomeScreen</name>
+    <message>
+        <source>There is nothing on TV now, and the catalogue is empty</source>
+        <translation>لا شيء يُعرض على التلفاز الآن، والقائمة فارغة</translation>
+    </message>
+    <message>
+        <source>Now on TV</source>
+        <translation>يُعرض الآن</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>أفلام</translation>
+    </message>
+    <message>
+        <source>Series</source>
+        <translation>مسلسلات</translation>
+    </message>
+    <message>
+        <source>Continue watching</source>
+        <translation>متابعة المشاهدة</translation>
+    </message>
+</context>
+<context>
     <name>LoadingView</name>
     <message>
         <source>Reading the guide…</source>
         <translation>جارٍ قراءة الدليل…</translation>
+    </message>
+</context>
+<context>
+    <name>MediaItem</name>
+    <message>
+        <source>%1 min</source>
+        <extracomment>Length of a film: minutes</extracomment>
+        <translation>%1 د</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <extracomment>Length of a film: hours and minutes</extracomment>
+        <translation>%1 س %2 د</translation>
+    </message>
+    <message>
+        <source>Season %1, episode %2</source>
+        <extracomment>%1 is the season&apos;s number, %2 the episode&apos;s</extracomment>
+        <translation>الموسم %1، الحلقة %2</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <extracomment>%1 is how much is left of a film that was begun: &quot;12 min&quot;</extracomment>
+        <translation>بقي %1</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,45 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
+    <name>DetailScreen</name>
+    <message>
+        <source>Watch</source>
+        <translation>Ansehen</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Fortsetzen</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Abspielen</translation>
+    </message>
+    <message>
+        <source>In favourites</source>
+        <translation>In den Favoriten</translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation>Zu Favoriten</translation>
+    </message>
+    <message>
+        <source>Trailer</source>
+        <translation>Trailer</translation>
+    </message>
+    <message>
+        <source>TV guide</source>
+        <translation>TV-Programm</translation>
+    </message>
+    <message>
+        <source>Like</source>
+        <translation>Gefällt mir</translation>
+    </message>
+    <message>
+        <source>There is no player in this gallery.</source>
+        <translation>In dieser Galerie gibt es keinen Player.</translation>
+    </message>
+</context>
+<context>
     <name>GuideScreen</name>
     <message>
         <source>There are no channels in this guide</source>
@@ -58,10 +97,71 @@
     </message>
 </context>
 <context>
+    <name>HomeHeader</name>
+    <message>
+        <source>Home</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>TV guide</source>
+        <translation>TV-Programm</translation>
+    </message>
+    <message>
+        <source>Press BACK again to leave</source>
+        <translation>Zum Beenden noch einmal ZURÜCK drücken</translation>
+    </message>
+</context>
+<context>
+    <name>HomeScreen</name>
+    <message>
+        <source>There is nothing on TV now, and the catalogue is empty</source>
+        <translation>Im Fernsehen läuft gerade nichts, und der Katalog ist leer</translation>
+    </message>
+    <message>
+        <source>Now on TV</source>
+        <translation>Jetzt im TV</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>Filme</translation>
+    </message>
+    <message>
+        <source>Series</source>
+        <translation>Serien</translation>
+    </message>
+    <message>
+        <source>Continue watching</source>
+        <translation>Weiterschauen</translation>
+    </message>
+</context>
+<context>
     <name>LoadingView</name>
     <message>
         <source>Reading the guide…</source>
         <translation>Programm wird gelesen …</translation>
+    </message>
+</context>
+<context>
+    <name>MediaItem</name>
+    <message>
+        <source>%1 min</source>
+        <extracomment>Length of a film: minutes</extracomment>
+        <translation>%1 Min.</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <extracomment>Length of a film: hours and minutes</extracomment>
+        <translation>%1 Std. %2 Min.</translation>
+    </message>
+    <message>
+        <source>Season %1, episode %2</source>
+        <extracomment>%1 is the season&apos;s number, %2 the episode&apos;s</extracomment>
+        <translation>Staffel %1, Folge %2</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <extracomment>%1 is how much is left of a film that was begun: &quot;12 min&quot;</extracomment>
+        <translation>Noch %1</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,45 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_GB" sourcelanguage="en">
 <context>
+    <name>DetailScreen</name>
+    <message>
+        <source>Watch</source>
+        <translation>Watch</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continue</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Play</translation>
+    </message>
+    <message>
+        <source>In favourites</source>
+        <translation>In favourites</translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation>Add to favourites</translation>
+    </message>
+    <message>
+        <source>Trailer</source>
+        <translation>Trailer</translation>
+    </message>
+    <message>
+        <source>TV guide</source>
+        <translation>TV guide</translation>
+    </message>
+    <message>
+        <source>Like</source>
+        <translation>Like</translation>
+    </message>
+    <message>
+        <source>There is no player in this gallery.</source>
+        <translation>There is no player in this gallery.</translation>
+    </message>
+</context>
+<context>
     <name>GuideScreen</name>
     <message>
         <source>There are no channels in this guide</source>
@@ -58,10 +97,71 @@
     </message>
 </context>
 <context>
+    <name>HomeHeader</name>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>TV guide</source>
+        <translation>TV guide</translation>
+    </message>
+    <message>
+        <source>Press BACK again to leave</source>
+        <translation>Press BACK again to leave</translation>
+    </message>
+</context>
+<context>
+    <name>HomeScreen</name>
+    <message>
+        <source>There is nothing on TV now, and the catalogue is empty</source>
+        <translation>There is nothing on TV now, and the catalogue is empty</translation>
+    </message>
+    <message>
+        <source>Now on TV</source>
+        <translation>Now on TV</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>Films</translation>
+    </message>
+    <message>
+        <source>Series</source>
+        <translation>Series</translation>
+    </message>
+    <message>
+        <source>Continue watching</source>
+        <translation>Continue watching</translation>
+    </message>
+</context>
+<context>
     <name>LoadingView</name>
     <message>
         <source>Reading the guide…</source>
         <translation>Reading the guide…</translation>
+    </message>
+</context>
+<context>
+    <name>MediaItem</name>
+    <message>
+        <source>%1 min</source>
+        <extracomment>Length of a film: minutes</extracomment>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <extracomment>Length of a film: hours and minutes</extracomment>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>Season %1, episode %2</source>
+        <extracomment>%1 is the season&apos;s number, %2 the episode&apos;s</extracomment>
+        <translation>Season %1, episode %2</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <extracomment>%1 is how much is left of a film that was begun: &quot;12 min&quot;</extracomment>
+        <translation>%1 left</translation>
     </message>
 </context>
 <context>

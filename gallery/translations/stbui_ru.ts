@@ -2,6 +2,45 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU" sourcelanguage="en">
 <context>
+    <name>DetailScreen</name>
+    <message>
+        <source>Watch</source>
+        <translation>Смотреть</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Продолжить</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Смотреть</translation>
+    </message>
+    <message>
+        <source>In favourites</source>
+        <translation>В избранном</translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation>В избранное</translation>
+    </message>
+    <message>
+        <source>Trailer</source>
+        <translation>Трейлер</translation>
+    </message>
+    <message>
+        <source>TV guide</source>
+        <translation>Телепрограмма</translation>
+    </message>
+    <message>
+        <source>Like</source>
+        <translation>Нравится</translation>
+    </message>
+    <message>
+        <source>There is no player in this gallery.</source>
+        <translation>В этой галерее нет плеера.</translation>
+    </message>
+</context>
+<context>
     <name>GuideScreen</name>
     <message>
         <source>There are no channels in this guide</source>
@@ -58,10 +97,71 @@
     </message>
 </context>
 <context>
+    <name>HomeHeader</name>
+    <message>
+        <source>Home</source>
+        <translation>Главная</translation>
+    </message>
+    <message>
+        <source>TV guide</source>
+        <translation>Телепрограмма</translation>
+    </message>
+    <message>
+        <source>Press BACK again to leave</source>
+        <translation>Чтобы выйти, нажмите НАЗАД ещё раз</translation>
+    </message>
+</context>
+<context>
+    <name>HomeScreen</name>
+    <message>
+        <source>There is nothing on TV now, and the catalogue is empty</source>
+        <translation>Сейчас в эфире ничего нет, и каталог пуст</translation>
+    </message>
+    <message>
+        <source>Now on TV</source>
+        <translation>Сейчас в эфире</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>Фильмы</translation>
+    </message>
+    <message>
+        <source>Series</source>
+        <translation>Сериалы</translation>
+    </message>
+    <message>
+        <source>Continue watching</source>
+        <translation>Продолжить просмотр</translation>
+    </message>
+</context>
+<context>
     <name>LoadingView</name>
     <message>
         <source>Reading the guide…</source>
         <translation>Загрузка программы…</translation>
+    </message>
+</context>
+<context>
+    <name>MediaItem</name>
+    <message>
+        <source>%1 min</source>
+        <extracomment>Length of a film: minutes</extracomment>
+        <translation>%1 мин</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <extracomment>Length of a film: hours and minutes</extracomment>
+        <translation>%1 ч %2 мин</translation>
+    </message>
+    <message>
+        <source>Season %1, episode %2</source>
+        <extracomment>%1 is the season&apos;s number, %2 the episode&apos;s</extracomment>
+        <translation>Сезон %1, серия %2</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <extracomment>%1 is how much is left of a film that was begun: &quot;12 min&quot;</extracomment>
+        <translation>Осталось %1</translation>
     </message>
 </context>
 <context>

@@ -47,12 +47,20 @@ private Q_SLOTS:
     {
         const QString guide = file(QStringLiteral("guide.xml"));
         const QString theme = file(QStringLiteral("theme.json"));
-        const CommandLine line = parse({ "--guide", guide, "--now", "2015-11-26T20:05:00Z", "--screen",
-                                         "guide", "--keys", "Down Right", "--screenshots",
-                                         m_folder.filePath("shots"), "--theme", theme, "--resolution", "sd",
-                                         "--backend", "software", "--language", "ru" });
+        const QString catalogue = file(QStringLiteral("catalogue.json"));
+        const CommandLine line = parse({ "--guide",       guide,
+                                         "--catalogue",   catalogue,
+                                         "--now",         "2015-11-26T20:05:00Z",
+                                         "--screen",      "guide",
+                                         "--keys",        "Down Right",
+                                         "--screenshots", m_folder.filePath("shots"),
+                                         "--theme",       theme,
+                                         "--resolution",  "sd",
+                                         "--backend",     "software",
+                                         "--language",    "ru" });
         QVERIFY2(!line.exitCode, qPrintable(line.message));
         QCOMPARE(line.options.guideFile, guide);
+        QCOMPARE(line.options.catalogueFile, catalogue);
         QCOMPARE(line.options.now, QDateTime(QDate(2015, 11, 26), QTime(20, 5), QTimeZone::utc()));
         QCOMPARE(line.options.screen, "guide");
         QCOMPARE(line.options.keys, (QList { Qt::Key_Down, Qt::Key_Right }));
@@ -90,6 +98,9 @@ private Q_SLOTS:
         QTest::newRow("unknown language") << QStringList { "--language", "xx" } << "xx";
         QTest::newRow("missing guide")
                 << QStringList { "--guide", "/does/not/exist.xml" } << "/does/not/exist.xml";
+        QTest::newRow("missing catalogue")
+                << QStringList { "--catalogue", "/does/not/exist.json" } << "/does/not/exist.json";
+        QTest::newRow("folder as catalogue") << QStringList { "--catalogue", folder } << folder;
         QTest::newRow("folder as guide") << QStringList { "--guide", folder } << folder;
         QTest::newRow("missing theme")
                 << QStringList { "--theme", "/does/not/exist.json" } << "/does/not/exist.json";
@@ -140,8 +151,9 @@ private Q_SLOTS:
         const GalleryRun run = runGallery({ "--help" });
         QCOMPARE(run.exitCode, 0);
         QCOMPARE(run.errors, QString());
-        for (const char *option : { "--guide", "--now", "--screen", "--keys", "--screenshots", "--theme",
-                                    "--resolution", "--backend", "--language", "--help", "--version" })
+        for (const char *option :
+             { "--guide", "--catalogue", "--now", "--screen", "--keys", "--screenshots", "--theme",
+               "--resolution", "--backend", "--language", "--help", "--version" })
             QVERIFY2(run.output.contains(QLatin1String(option)), option);
     }
 
@@ -168,6 +180,24 @@ private Q_SLOTS:
         QCOMPARE(run.exitCode, 2);
         QCOMPARE(run.output, QString());
         QVERIFY2(run.errors.contains("no-guide.xml") && run.errors.count(u'\n') == 1, qPrintable(run.errors));
+    }
+
+    void aFileThatIsNoCatalogueEndsTheProgramWithTwo()
+    {
+        const QString path = file(QStringLiteral("no-catalogue.json"), "{ \"films\": [");
+        const GalleryRun run = runGallery({ "--catalogue", path, "--screenshots", m_folder.filePath("none") });
+        QCOMPARE(run.exitCode, 2);
+        QCOMPARE(run.output, QString());
+        QVERIFY2(run.errors.startsWith("stbui-gallery: ") && run.errors.contains("no-catalogue.json")
+                         && run.errors.count(u'\n') == 1,
+                 qPrintable(run.errors));
+    }
+
+    void everyScreenCanBeNamed()
+    {
+        QCOMPARE(gallery::screenNames(), (QStringList { "home", "detail", "guide" }));
+        for (const QString &name : gallery::screenNames())
+            QCOMPARE(parse({ "--screen", name }).options.screen, name);
     }
 
     void withoutADisplayTheProgramSaysSo()

@@ -1,95 +1,31 @@
 // SPDX-License-Identifier: MIT
-#include "guides.h"
-#include "testkit/testcase.h"
+#include "screentest.h"
 
-#include "app/application.h"
-#include "app/languages.h"
-#include "screens/guidecontroller.h"
-
-#include <QtCore/qrandom.h>
 #include <QtCore/qtemporaryfile.h>
 #include <QtGui/qimage.h>
 #include <QtQml/qqmlengine.h>
-#include <QtQuick/qquickitem.h>
-#include <QtQuick/qquickview.h>
 
 /*! The guide screen in its window, steered with key events. */
-class tst_GuideScreen : public stbtest::TestCase
+class tst_GuideScreen : public ScreenTest
 {
     Q_OBJECT
 
     void start(gallery::Options options = {})
     {
-        options.now = guides::at(20, 5);
-        if (options.language.isEmpty())
-            options.language = "en";
-        m_application = std::make_unique<gallery::Application>(options);
-        QVERIFY2(m_application->start(), qPrintable(m_application->error()));
-        QVERIFY(QTest::qWaitForWindowExposed(m_application->view()));
-        guide()->setGuide(guides::five());
+        options.screen = "guide";
+        ScreenTest::start(options);
     }
 
-    gallery::GuideController *guide() const { return m_application->guide(); }
-    QQuickView *view() const { return m_application->view(); }
-    QQuickItem *item(const char *name) const { return view()->rootObject()->findChild<QQuickItem *>(name); }
-    void press(Qt::Key key) const { QTest::keyClick(view(), key); }
-
-    static void collectPlates(QQuickItem *item, QList<QQuickItem *> &plates)
-    {
-        if (item->objectName() == "focusPlate" && item->isVisible())
-            plates.append(item);
-        const QList<QQuickItem *> children = item->childItems();
-        for (QQuickItem *child : children)
-            collectPlates(child, plates);
-    }
-
-    static QRectF sceneRect(QQuickItem *item)
-    {
-        return item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
-    }
+    gallery::GuideController *guide() const { return shell()->guide(); }
 
     /*! Why the focus cannot be seen, or nothing when it can. */
     QString focusProblem() const
     {
-        QList<QQuickItem *> plates;
-        collectPlates(view()->rootObject(), plates);
-        if (view()->activeFocusItem() == nullptr)
-            return "nothing has the focus";
-        if (plates.size() != 1)
-            return QStringLiteral("%1 focus plates").arg(plates.size());
-        const QRectF plate = sceneRect(plates.constFirst());
-        const QRectF place = guide()->isDetailsOpen() ? sceneRect(view()->rootObject())
-                                                      : sceneRect(item("programmes"));
-        if (plate.height() < 20 || !place.adjusted(-1, -1, 1, 1).contains(plate))
-            return QStringLiteral("the focus plate is at %1, %2 high").arg(plate.y()).arg(plate.height());
-        return {};
+        return plateProblem(sceneRect(guide()->isDetailsOpen() ? view()->rootObject() : item("programmes")));
     }
-
-    /*! The texts that are shown. */
-    static void collectTexts(QQuickItem *item, QStringList &texts)
-    {
-        if (item->isVisible() && !item->property("text").toString().isEmpty())
-            texts.append(item->property("text").toString());
-        const QList<QQuickItem *> children = item->childItems();
-        for (QQuickItem *child : children)
-            collectTexts(child, texts);
-    }
-
-    QStringList texts() const
-    {
-        QStringList result;
-        collectTexts(view()->rootObject(), result);
-        return result;
-    }
-
-    std::unique_ptr<gallery::Application> m_application;
 
 private Q_SLOTS:
-    void cleanup()
-    {
-        m_application.reset();
-        QVERIFY(gallery::installLanguage(QStringLiteral("en")));
-    }
+    void cleanup() { end(); }
 
     void startsWithTheFocusOnTheProgrammeThatIsOn()
     {
@@ -162,10 +98,8 @@ private Q_SLOTS:
     void theFocusIsSeenAfterAnyKeys()
     {
         start();
-        const QList<Qt::Key> keys { Qt::Key_Up,     Qt::Key_Down,     Qt::Key_Left, Qt::Key_Right,
-                                    Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End,
-                                    Qt::Key_Return, Qt::Key_Back,     Qt::Key_A,    Qt::Key_Tab,
-                                    Qt::Key_Backtab };
+        QList<Qt::Key> keys = remoteKeys();
+        keys.removeOne(Qt::Key_Back); // leads to the home screen in the end
         QRandomGenerator random(20260304);
         for (int step = 0; step < 2000; ++step) {
             const Qt::Key key = keys.at(random.bounded(int(keys.size())));
@@ -192,7 +126,6 @@ private Q_SLOTS:
         QVERIFY(sceneRect(item("channels")).right() < sceneRect(item("programmes")).left());
         gallery::Options arabic;
         arabic.language = "ar";
-        m_application.reset();
         start(arabic);
         QVERIFY(sceneRect(item("channels")).left() > sceneRect(item("programmes")).right());
         press(Qt::Key_Left);
@@ -211,6 +144,7 @@ private Q_SLOTS:
         file.close();
         gallery::Options options;
         options.guideFile = file.fileName();
+        options.screen = "guide";
         options.now = guides::at(20, 5);
         options.language = "en";
         m_application = std::make_unique<gallery::Application>(options);

@@ -11,12 +11,12 @@ class tst_Screenshots : public stbtest::TestCase
 {
     Q_OBJECT
 
-    QImage picture(const QString &folder, const QStringList &arguments)
+    QImage picture(const QString &folder, const QStringList &arguments, const QString &screen = "guide")
     {
-        const QString path = m_folder.filePath(folder + "/guide.png");
-        const GalleryRun run = runGallery(
-                QStringList { "--now", "2026-03-04T20:05:00Z", "--screenshots", m_folder.filePath(folder) }
-                + arguments);
+        const QString path = m_folder.filePath(folder + "/" + screen + ".png");
+        const GalleryRun run = runGallery(QStringList { "--now", "2026-03-04T20:05:00Z", "--screen", screen,
+                                                        "--screenshots", m_folder.filePath(folder) }
+                                          + arguments);
         if (run.exitCode != 0 || !run.errors.isEmpty() || run.output != path + "\n") {
             QTest::qFail(qPrintable(run.output + run.errors), __FILE__, __LINE__);
             return {};
@@ -35,6 +35,7 @@ class tst_Screenshots : public stbtest::TestCase
     }
 
     QTemporaryDir m_folder;
+    QList<QImage> m_seen;
 
 private Q_SLOTS:
     void thePictureHasTheSizeOfTheResolution_data()
@@ -87,9 +88,80 @@ private Q_SLOTS:
         QCOMPARE(picture("there-and-back", { "--keys", "Down Return Back Up" }), picture("still", {}));
     }
 
-    void backOnTheWayOutStillGivesAPicture()
+    void backFromTheGuideLeadsHome()
     {
-        QCOMPARE(picture("out", { "--keys", "Back Back" }), picture("in", {}));
+        QCOMPARE(picture("out", { "--keys", "Back" }), picture("home", {}, "home"));
+    }
+
+    void leavingStillGivesAPicture()
+    {
+        QVERIFY(!picture("leaving", { "--keys", "Back Back Back Back" }, "home").isNull());
+    }
+
+    void withoutAScreenEachOneHasItsPicture()
+    {
+        const QString folder = m_folder.filePath("all");
+        const GalleryRun run = runGallery({ "--now", "2026-03-04T20:05:00Z", "--screenshots", folder });
+        QCOMPARE(run.errors, QString());
+        QCOMPARE(run.exitCode, 0);
+        QList<QImage> pictures;
+        QString output;
+        for (const QString screen : { "home", "detail", "guide" }) {
+            const QString path = folder + "/" + screen + ".png";
+            output += path + "\n";
+            const QImage image(path);
+            QVERIFY2(colours(image) > 50, qPrintable(screen));
+            QVERIFY(!pictures.contains(image));
+            QCOMPARE(image, picture("one-" + screen, {}, screen));
+            pictures.append(image);
+        }
+        QCOMPARE(run.output, output);
+    }
+
+    void everyScreenHasItsPictureInEverySizeAndLanguage_data()
+    {
+        QTest::addColumn<QString>("resolution");
+        QTest::addColumn<QString>("language");
+        for (const QString resolution : { "hd", "fullhd", "sd" }) {
+            for (const QString language : { "en", "ru", "de", "ar" })
+                QTest::addRow("%s %s", qPrintable(resolution), qPrintable(language))
+                        << resolution << language;
+        }
+    }
+    void everyScreenHasItsPictureInEverySizeAndLanguage()
+    {
+        QFETCH(QString, resolution);
+        QFETCH(QString, language);
+        const QString folder = m_folder.filePath(resolution + language);
+        const GalleryRun run = runGallery({ "--now", "2026-03-04T20:05:00Z", "--resolution", resolution,
+                                            "--language", language, "--screenshots", folder });
+        QCOMPARE(run.errors, QString());
+        QCOMPARE(run.exitCode, 0);
+        for (const QString screen : { "home", "detail", "guide" }) {
+            const QImage image(folder + "/" + screen + ".png");
+            QVERIFY(colours(image) > 50);
+            QVERIFY(!m_seen.contains(image));
+            m_seen.append(image);
+        }
+    }
+
+    void aCatalogueWithBrokenEntriesIsShownAsFarAsItGoes()
+    {
+        QFile catalogue(m_folder.filePath("broken.json"));
+        QVERIFY(catalogue.open(QIODevice::WriteOnly));
+        catalogue.write("{ \"films\": [ { \"title\": 7 }, { \"title\": \"Kept\", \"duration\": \"long\", "
+                        "\"picture\": \"does-not-exist.jpg\" }, null ] }");
+        catalogue.close();
+        const QString folder = m_folder.filePath("broken");
+        const GalleryRun run = runGallery({ "--now", "2026-03-04T20:05:00Z", "--screen", "home",
+                                            "--catalogue", catalogue.fileName(), "--screenshots", folder });
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.output, folder + "/home.png\n");
+        const QStringList lines = run.errors.split(u'\n', Qt::SkipEmptyParts);
+        QCOMPARE(lines.size(), 3);
+        for (const QString &line : lines)
+            QVERIFY2(line.startsWith("stbui-gallery: ") && line.contains("broken.json"), qPrintable(line));
+        QVERIFY(colours(QImage(folder + "/home.png")) > 50);
     }
 
     void everyLanguageHasItsPicture()

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+import Stbui.UI.Qml.Controls.Basic
+import Stbui.UI.Qml.Design
+import Gallery
+
+// A wide picture in the upper corner where reading ends, which fades away towards the text. Without a picture, or
+// with one that cannot be loaded, there is nothing to be seen.
+Item {
+    id: backdrop
+
+    // Its size is fixed when it is made.
+    required property url source
+
+    visible: source.toString().length > 0
+
+    Component.onCompleted: picture.style = measures
+
+    // A tile takes its size from the style that it is given, as it is at that moment.
+    TileQmlStyle {
+        id: measures
+
+        style.tileRect: Qt.rect(0, 0, backdrop.width, backdrop.height)
+    }
+    ExpandableTile {
+        id: picture
+
+        itemBackgroundColor: Look.backdrop
+        imageSource: Pictures.filling(backdrop.source, backdrop.width, backdrop.height)
+    }
+    Rectangle {
+        anchors.fill: parent
+        rotation: LayoutMirroring.enabled ? 180 : 0
+        gradient: Gradient {
+            orientation: Gradient.Horizontal
+            GradientStop {
+                position: 0
+                color: Look.backdrop
+            }
+            GradientStop {
+                position: 0.7
+                color: Look.veil
+            }
+        }
+    }
+    Rectangle {
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        height: Math.round(parent.height / 2)
+        gradient: Gradient {
+            GradientStop {
+                position: 0
+                color: "transparent"
+            }
+            GradientStop {
+                position: 1
+                color: Look.backdrop
+            }
+        }
+    }
+}

@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+import Stbui.UI.Qml.Controls.Basic
+import Gallery
+
+// The first screen: what is chosen, large, above rows of what there is to watch.
+FocusScope {
+    id: screen
+
+    required property HomeController home
+    required property GuideController guide
+
+    focus: true
+    Keys.onPressed: event => event.accepted = home.press(event.key)
+
+    Backdrop {
+        anchors.top: parent.top
+        anchors.right: parent.right
+        width: Math.round(0.6 * Look.screenWidth)
+        height: Math.round(0.45 * Look.screenHeight)
+        source: screen.home.still
+    }
+    HomeHeader {
+        id: header
+
+        anchors.top: parent.top
+        anchors.topMargin: Look.safeY
+        anchors.left: parent.left
+        anchors.leftMargin: Look.safeX
+        anchors.right: parent.right
+        anchors.rightMargin: Look.safeX
+        home: screen.home
+        clockText: screen.guide.clockText
+    }
+    Column {
+        id: hero
+
+        anchors.top: header.bottom
+        anchors.topMargin: Look.small
+        anchors.left: header.left
+        width: Math.round(0.62 * parent.width)
+        spacing: Look.tiny
+
+        Label {
+            width: parent.width
+            text: screen.home.title
+            font: Look.headline
+        }
+        Label {
+            width: parent.width
+            text: screen.home.facts
+            font: Look.caption
+            color: Look.quietText
+        }
+        Label {
+            width: parent.width
+            height: Math.ceil((Look.wide ? 2 : 1) * metrics.lineSpacing)
+            text: screen.home.description
+            font: Look.caption
+            wrapMode: Text.Wrap
+            maximumLineCount: Look.wide ? 2 : 1
+        }
+        FontMetrics {
+            id: metrics
+
+            font: Look.caption
+        }
+    }
+    ListView {
+        id: rows
+
+        objectName: "rows"
+        anchors.top: hero.bottom
+        anchors.topMargin: Look.small
+        anchors.bottom: parent.bottom
+        anchors.left: parent.left
+        anchors.right: parent.right
+        interactive: false
+        clip: true
+        // There are few rows, and with all of them made their places are exact.
+        cacheBuffer: 0
+        displayMarginBeginning: 10 * height
+        displayMarginEnd: 10 * height
+        bottomMargin: height
+        highlightFollowsCurrentItem: false
+        model: screen.home.rows
+        currentIndex: screen.home.rowIndex
+        // The row that keys act on is at the top.
+        contentY: currentItem ? currentItem.y : 0
+        delegate: TileRow {
+            width: ListView.view.width
+            active: ListView.isCurrentItem && !screen.home.inHeader
+        }
+
+        Behavior on contentY {
+            enabled: QmlSettings.viewportScrollingAnimationsEnabled
+            SmoothedAnimation {
+                duration: Look.scrollTime
+                velocity: -1
+            }
+        }
+    }
+    EdgeFades.Fade {
+        anchors.bottom: parent.bottom
+        rotation: 180
+    }
+    LoadingView {
+        anchors.fill: parent
+        visible: screen.guide.loading && rows.count === 0
+        progress: screen.guide.loadProgress
+    }
+    Label {
+        anchors.centerIn: parent
+        width: parent.width - 2 * Look.safeX
+        visible: !screen.guide.loading && rows.count === 0
+        text: qsTr("There is nothing on TV now, and the catalogue is empty")
+        font: Look.heading
+        color: Look.quietText
+        horizontalAlignment: Text.AlignHCenter
+        wrapMode: Text.Wrap
+        maximumLineCount: 3
+    }
+}

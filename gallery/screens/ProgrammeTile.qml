@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+import Stbui.UI.Qml.Controls.Basic
+import Stbui.UI.Qml.Design
+import Gallery
+
+// What is on a channel now.
+ContentTile {
+    id: tile
+
+    required property bool focused
+    required property string title
+    required property string subtitle
+    required property string status
+    required property string channel
+    required property url still
+    required property double progress
+    required property bool favourite
+    // A state that is there from the beginning would not make the tile grow.
+    property bool completed: false
+
+    objectName: "tile"
+    state: completed && focused ? "focused" : "normal"
+    z: focused ? 2 : 1
+    style: QmlDesignSystem.contentTileStyle
+    itemTitle: title
+    itemSubtitle: subtitle
+    itemStatus: status
+    itemIsFavourite: favourite
+    imageSource: Pictures.filling(still, style.style.focusedRect.width, style.style.focusedRect.height)
+    Accessible.role: Accessible.ListItem
+    Accessible.name: channel + " " + title
+    Component.onCompleted: completed = true
+
+    // A channel has no picture of its programme: its name takes the place.
+    Label {
+        x: tile.customFocusRect.x + Look.medium
+        y: tile.customFocusRect.y
+        width: tile.customFocusRect.width - 2 * Look.medium
+        height: tile.customFocusRect.height - Look.medium
+        visible: tile.still.toString().length === 0
+        text: tile.channel
+        font: Look.heading
+        color: Look.quietText
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+        wrapMode: Text.Wrap
+        maximumLineCount: 2
+    }
+    ProgressLine {
+        x: tile.customFocusRect.x + Look.medium
+        y: tile.customFocusRect.y + tile.customFocusRect.height - height - Look.medium
+        width: tile.customFocusRect.width - 2 * Look.medium
+        progress: tile.progress
+    }
+}

@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+import Stbui.UI.Qml.Controls.Basic
+import Stbui.UI.Qml.Design
+import Gallery
+
+// One row of tiles with its name.
+Item {
+    id: tileRow
+
+    required property HomeRow row
+    // Whether keys act on this row.
+    required property bool active
+    readonly property bool upright: row.kind === HomeRow.Films || row.kind === HomeRow.Series
+    readonly property TileQmlStyle tileStyle: upright ? QmlDesignSystem.vodTileStyle
+                                                      : QmlDesignSystem.contentTileStyle
+    // qmllint disable type
+    readonly property rect tileRect: tileStyle.style.tileRect
+    readonly property rect focusedRect: tileStyle.style.focusedRect
+    // qmllint enable type
+    // Nothing moves before everything has its place.
+    property bool completed: false
+    readonly property int step: tileRect.width + QmlDesignSystem.layouts.viewHorizontalSpacing
+
+    Component.onCompleted: completed = true
+    height: name.height + list.anchors.topMargin + list.height + Look.medium
+
+    Binding {
+        tileRow.row.columns: Math.floor((tileRow.width - 2 * Look.safeX + tileRow.step - tileRow.tileRect.width)
+                                        / tileRow.step)
+    }
+    Label {
+        id: name
+
+        objectName: "rowName"
+        anchors.left: parent.left
+        anchors.leftMargin: Look.safeX
+        text: tileRow.row.title
+        font: Look.heading
+        color: tileRow.active ? Look.text : Look.quietText
+    }
+    ListView {
+        id: list
+
+        anchors.top: name.bottom
+        // The tile that has the focus grows, and has a frame.
+        anchors.topMargin: Look.small - tileRow.focusedRect.y
+        width: parent.width
+        height: tileRow.focusedRect.y + tileRow.focusedRect.height + caption.height
+        orientation: ListView.Horizontal
+        spacing: tileRow.step - tileRow.tileRect.width
+        interactive: false
+        // Tiles made ahead of need would still be on their way when the model is reset, which Qt warns of.
+        cacheBuffer: 0
+        // The first tile has its place at the edge of the safe area, the last one may have it too.
+        leftMargin: LayoutMirroring.enabled ? width : Look.safeX
+        rightMargin: LayoutMirroring.enabled ? Look.safeX : width
+        model: tileRow.row.tiles
+        currentIndex: tileRow.row.current
+        contentX: LayoutMirroring.enabled ? Look.safeX - width - tileRow.row.first * tileRow.step
+                                          : tileRow.row.first * tileRow.step - Look.safeX
+        highlightFollowsCurrentItem: false
+        highlight: FocusPlate {
+            readonly property ExpandableTile tile: list.currentItem as ExpandableTile
+            readonly property rect around: tile ? tile.customFocusRect : Qt.rect(0, 0, 0, 0)
+
+            visible: tileRow.active && tile
+            x: (tile ? tile.x : 0) + around.x - Look.frame
+            y: around.y - Look.frame
+            width: around.width + 2 * Look.frame
+            height: around.height + 2 * Look.frame
+            radius: 0
+        }
+        delegate: tileRow.row.kind === HomeRow.NowOnTv ? programme : video
+
+        Behavior on contentX {
+            enabled: tileRow.completed && QmlSettings.viewportScrollingAnimationsEnabled
+            SmoothedAnimation {
+                duration: Look.scrollTime
+                velocity: -1
+            }
+        }
+    }
+    Component {
+        id: programme
+
+        ProgrammeTile {
+            focused: tileRow.active && ListView.isCurrentItem
+        }
+    }
+    Component {
+        id: video
+
+        VideoTile {
+            required property url picture
+            required property url still
+
+            focused: tileRow.active && ListView.isCurrentItem
+            style: tileRow.tileStyle
+            shownPicture: tileRow.upright ? picture : still
+        }
+    }
+    Column {
+        id: caption
+
+        visible: false
+        topPadding: spacing
+        spacing: Look.captionSpacing
+
+        Repeater {
+            model: tileRow.row.captionLines
+
+            Label {
+                text: "X"
+            }
+        }
+    }
+}

@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: MIT
+#include "screens/detailcontroller.h"
+
+#include "screens/marks.h"
+#include "screens/remotekey.h"
+
+#include <QtCore/qcoreapplication.h>
+
+#include <algorithm>
+
+namespace gallery {
+
+DetailController::DetailController(Marks *favourites, Marks *likes, QObject *parent)
+    : QObject(parent)
+    , m_favourites(favourites)
+    , m_likes(likes)
+{
+    m_timer.setSingleShot(true);
+    m_timer.setInterval(openingTime);
+    connect(&m_timer, &QTimer::timeout, this, &DetailController::finishOpening);
+    connect(m_favourites, &Marks::changed, this, &DetailController::marksChanged);
+    connect(m_likes, &Marks::changed, this, &DetailController::marksChanged);
+}
+
+void DetailController::show(const MediaItem &item)
+{
+    m_item = item;
+    m_button = PlayButton;
+    setOpening(NoButton, false);
+    Q_EMIT itemChanged();
+    Q_EMIT marksChanged();
+    Q_EMIT buttonChanged();
+}
+
+void DetailController::update(const MediaItem &item)
+{
+    if (item == m_item)
+        return;
+    m_item = item;
+    Q_EMIT itemChanged();
+}
+
+bool DetailController::isFavourite() const
+{
+    return m_favourites->contains(m_item.id);
+}
+
+bool DetailController::isLiked() const
+{
+    return m_likes->contains(m_item.id);
+}
+
+QString DetailController::message() const
+{
+    if (!m_opened)
+        return {};
+    return QCoreApplication::translate("DetailScreen", "There is no player in this gallery.");
+}
+
+void DetailController::setMirrored(bool mirrored)
+{
+    if (mirrored == m_mirrored)
+        return;
+    m_mirrored = mirrored;
+    Q_EMIT mirroredChanged();
+}
+
+QList<DetailController::Button> DetailController::buttons() const
+{
+    return { PlayButton, FavouriteButton, m_item.isProgramme() ? GuideButton : TrailerButton, RateButton };
+}
+
+bool DetailController::press(int key)
+{
+    if (isBackKey(key)) {
+        if (m_opening == NoButton)
+            Q_EMIT backRequested();
+        else
+            setOpening(NoButton, false);
+        return true;
+    }
+    if (isSelectKey(key)) {
+        activate();
+        return true;
+    }
+    const int index = int(buttons().indexOf(m_button));
+    if (const int step = readingStep(key, m_mirrored)) {
+        choose(index + step);
+        return true;
+    }
+    if (key == Qt::Key_Home || key == Qt::Key_End) {
+        choose(key == Qt::Key_Home ? 0 : int(buttons().size()) - 1);
+        return true;
+    }
+    return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown;
+}
+
+void DetailController::choose(int index)
+{
+    const Button button = buttons().at(std::clamp(index, 0, int(buttons().size()) - 1));
+    if (button == m_button)
+        return;
+    m_button = button;
+    Q_EMIT buttonChanged();
+}
+
+void DetailController::activate()
+{
+    switch (m_button) {
+    case NoButton:
+        return;
+    case PlayButton:
+    case TrailerButton:
+        if (m_opening == NoButton)
+            setOpening(m_button, false);
+        return;
+    case FavouriteButton:
+        m_favourites->toggle(m_item.id);
+        return;
+    case RateButton:
+        m_likes->toggle(m_item.id);
+        return;
+    case GuideButton:
+        Q_EMIT guideRequested();
+        return;
+    }
+}
+
+void DetailController::finishOpening()
+{
+    if (m_opening != NoButton)
+        setOpening(NoButton, true);
+}
+
+void DetailController::setOpening(Button button, bool opened)
+{
+    if (button == NoButton)
+        m_timer.stop();
+    else
+        m_timer.start();
+    m_opening = button;
+    m_opened = opened;
+    Q_EMIT openingChanged();
+}
+
+} // namespace gallery

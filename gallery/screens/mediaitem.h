@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#ifndef GALLERY_SCREENS_MEDIAITEM_H
+#define GALLERY_SCREENS_MEDIAITEM_H
+
+#include "gallery/data/catalogue.h"
+#include "gallery/data/guide.h"
+
+#include <QtCore/qdatetime.h>
+
+namespace gallery {
+
+/*! Something to watch: what is on a channel now, or an entry of the catalogue. */
+struct MediaItem
+{
+    enum class Kind { Programme, Film, Series, Episode };
+
+    /*! The same for the same thing as long as the program runs; for a programme it names the channel. */
+    QString id;
+    Kind kind = Kind::Film;
+    QString title;
+    QString subtitle;
+    /*! A short note such as "New". */
+    QString note;
+    QString description;
+    QString genre;
+    /*! Age rating such as "12+". */
+    QString rating;
+    /*! Only of a programme. */
+    QString channel;
+    /*! When a programme began, in local time. */
+    QDateTime start;
+    int year = 0;
+    int season = 0;
+    int episode = 0;
+    /*! How much of it is over or watched, and how long it is, in seconds; 0 when not known. */
+    double position = 0;
+    double duration = 0;
+    /*! Upright and wide; empty when there is none. */
+    QUrl picture;
+    QUrl still;
+    QUrl logo;
+
+    bool isProgramme() const { return kind == Kind::Programme; }
+    /*! How much is over or watched, 0 to 1. */
+    double progress() const;
+
+    friend bool operator==(const MediaItem &, const MediaItem &) = default;
+};
+
+/*! What is on each channel of \a guide at \a now; channels with nothing on are left out. */
+QList<MediaItem> programmesAt(const Guide &guide, const QDateTime &now);
+/*! The entry \a index of \a catalogue. */
+MediaItem catalogueItem(const Catalogue &catalogue, int index);
+
+/*! "20:15 – 21:30" of a programme, else the subtitle: the second line of a tile. */
+QString secondLine(const MediaItem &item);
+/*! What is left of something that was begun, else the note: the third line of a tile. */
+QString thirdLine(const MediaItem &item);
+/*! What is known besides the texts, for one line: "2021 · Drama · 1 h 42 min". */
+QString facts(const MediaItem &item);
+/*! "12 min left", or nothing when \a item is not begun or its length is not known. */
+QString timeLeft(const MediaItem &item);
+
+} // namespace gallery
+
+#endif // GALLERY_SCREENS_MEDIAITEM_H

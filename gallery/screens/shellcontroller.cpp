@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "screens/shellcontroller.h"
+
+using namespace Qt::StringLiterals;
+
+namespace gallery {
+
+namespace {
+
+constexpr QLatin1StringView homeScreen = "home"_L1;
+constexpr QLatin1StringView detailScreen = "detail"_L1;
+constexpr QLatin1StringView guideScreen = "guide"_L1;
+
+} // namespace
+
+ShellController::ShellController(QObject *parent)
+    : QObject(parent)
+    , m_home(&m_clock, &m_favourites)
+    , m_detail(&m_favourites, &m_likes)
+    , m_guide(&m_clock)
+    , m_open({ homeScreen })
+{
+    const auto openGuide = [this] { open(guideScreen); };
+    connect(&m_home, &HomeController::itemOpened, this, &ShellController::openItem);
+    connect(&m_home, &HomeController::guideRequested, this, openGuide);
+    connect(&m_home, &HomeController::leaveRequested, this, &ShellController::leaveRequested);
+    connect(&m_home, &HomeController::itemsChanged, this, [this] {
+        if (const MediaItem *item = m_home.find(m_detail.item().id))
+            m_detail.update(*item);
+    });
+    connect(&m_detail, &DetailController::guideRequested, this, openGuide);
+    connect(&m_detail, &DetailController::backRequested, this, &ShellController::goBack);
+    connect(&m_guide, &GuideController::guideShown, this, [this] { m_home.setGuide(m_guide.shownGuide()); });
+    connect(&m_guide, &GuideController::leaveRequested, this, &ShellController::goBack);
+}
+
+QStringList ShellController::screenNames()
+{
+    return { homeScreen, detailScreen, guideScreen };
+}
+
+void ShellController::setMirrored(bool mirrored)
+{
+    if (mirrored == m_mirrored)
+        return;
+    m_mirrored = mirrored;
+    m_home.setMirrored(mirrored);
+    m_detail.setMirrored(mirrored);
+    m_guide.setMirrored(mirrored);
+    Q_EMIT mirroredChanged();
+}
+
+void ShellController::start(const QString &screen)
+{
+    m_open = { homeScreen };
+    m_home.start();
+    m_guide.start();
+    if (screen == detailScreen) {
+        m_home.chooseFirstVideo();
+        openItem();
+    } else if (screen == guideScreen) {
+        open(guideScreen);
+    }
+    Q_EMIT screenChanged();
+}
+
+void ShellController::openItem()
+{
+    if (m_home.item() == nullptr)
+        return;
+    m_detail.show(*m_home.item());
+    open(detailScreen);
+}
+
+void ShellController::open(const QString &screen)
+{
+    // A screen is open once: from the guide on the detail page Back leads to the page again.
+    m_open.removeAll(screen);
+    m_open.append(screen);
+    Q_EMIT screenChanged();
+}
+
+void ShellController::goBack()
+{
+    if (m_open.size() < 2)
+        return;
+    m_open.removeLast();
+    Q_EMIT screenChanged();
+}
+
+} // namespace gallery

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#ifndef GALLERY_SCREENS_SHELLCONTROLLER_H
+#define GALLERY_SCREENS_SHELLCONTROLLER_H
+
+#include "gallery/data/clock.h"
+#include "screens/detailcontroller.h"
+#include "screens/guidecontroller.h"
+#include "screens/homecontroller.h"
+#include "screens/marks.h"
+
+#include <QtCore/qstringlist.h>
+
+namespace gallery {
+
+/*!
+    All screens of the gallery, and the way through them: which one is shown, and those below it that Back leads
+    to. The home screen is always the lowest.
+*/
+class ShellController : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(gallery::HomeController *home READ home CONSTANT)
+    Q_PROPERTY(gallery::DetailController *detail READ detail CONSTANT)
+    Q_PROPERTY(gallery::GuideController *guide READ guide CONSTANT)
+    /*! The name of the screen that is shown. */
+    Q_PROPERTY(QString screen READ screen NOTIFY screenChanged)
+    /*! The names of the screens that are open, the one that is shown last. */
+    Q_PROPERTY(QStringList openScreens READ openScreens NOTIFY screenChanged)
+    /*! Whether the screens are laid out from right to left. */
+    Q_PROPERTY(bool mirrored READ isMirrored WRITE setMirrored NOTIFY mirroredChanged)
+    QML_ELEMENT
+    QML_UNCREATABLE("The application makes it.")
+public:
+    explicit ShellController(QObject *parent = nullptr);
+
+    /*! The names of the screens: "home", "detail", "guide". */
+    static QStringList screenNames();
+
+    Clock *clock() { return &m_clock; }
+    HomeController *home() { return &m_home; }
+    DetailController *detail() { return &m_detail; }
+    GuideController *guide() { return &m_guide; }
+
+    QString screen() const { return m_open.constLast(); }
+    QStringList openScreens() const { return m_open; }
+    bool isMirrored() const { return m_mirrored; }
+    void setMirrored(bool mirrored);
+
+    /*!
+        Starts anew on \a screen, as if no key had been pressed. The detail page shows the first item of the
+        catalogue, or of what is on TV; without either the home screen is shown in its place.
+    */
+    void start(const QString &screen);
+    /*! Leaves the screen for the one below it; on the lowest one nothing happens. */
+    void goBack();
+
+Q_SIGNALS:
+    void screenChanged();
+    void mirroredChanged();
+    /*! The user wants to leave the program. */
+    void leaveRequested();
+
+private:
+    void open(const QString &screen);
+    void openItem();
+
+    Clock m_clock;
+    Marks m_favourites;
+    Marks m_likes;
+    HomeController m_home;
+    DetailController m_detail;
+    GuideController m_guide;
+    QStringList m_open;
+    bool m_mirrored = false;
+};
+
+} // namespace gallery
+
+#endif // GALLERY_SCREENS_SHELLCONTROLLER_H

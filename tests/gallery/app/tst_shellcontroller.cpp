@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: MIT
+#include "catalogues.h"
+#include "guides.h"
+#include "testkit/testcase.h"
+
+#include "screens/shellcontroller.h"
+
+#include <QtTest/qsignalspy.h>
+
+using gallery::ShellController;
+
+/*! The way through the screens. */
+class tst_ShellController : public stbtest::TestCase
+{
+    Q_OBJECT
+
+    void fill()
+    {
+        m->clock()->setFixed(guides::at(20, 5));
+        m->home()->setCatalogue(catalogues::small());
+        m->guide()->setGuide(guides::five());
+    }
+
+    std::unique_ptr<ShellController> m;
+
+private Q_SLOTS:
+    void init()
+    {
+        TestCase::init();
+        m = std::make_unique<ShellController>();
+    }
+    void cleanup() { m.reset(); }
+
+    void startsOnTheHomeScreen()
+    {
+        QCOMPARE(m->screen(), "home");
+        QCOMPARE(m->openScreens(), QStringList { "home" });
+    }
+
+    void everyScreenCanBeStartedOnAboveTheHomeScreen()
+    {
+        fill();
+        m->start("guide");
+        QCOMPARE(m->openScreens(), (QStringList { "home", "guide" }));
+        m->start("detail");
+        QCOMPARE(m->openScreens(), (QStringList { "home", "detail" }));
+        m->start("home");
+        QCOMPARE(m->openScreens(), QStringList { "home" });
+    }
+
+    void theDetailPageStartsWithTheFirstFilm()
+    {
+        fill();
+        m->start("detail");
+        QCOMPARE(m->detail()->title(), "F0");
+        QCOMPARE(m->home()->title(), "F0");
+    }
+
+    void withoutACatalogueItStartsWithWhatIsOn()
+    {
+        fill();
+        m->home()->setCatalogue({});
+        m->start("detail");
+        QCOMPARE(m->detail()->title(), "A40");
+    }
+
+    void withoutAnythingToShowThereIsNoDetailPage()
+    {
+        m->start("detail");
+        QCOMPARE(m->screen(), "home");
+    }
+
+    void anItemOpensItsPageAndBackLeadsToItsTile()
+    {
+        fill();
+        m->home()->press(Qt::Key_Right);
+        m->home()->press(Qt::Key_Return);
+        QCOMPARE(m->screen(), "detail");
+        QCOMPARE(m->detail()->title(), "B25");
+        m->detail()->press(Qt::Key_Back);
+        QCOMPARE(m->screen(), "home");
+        QCOMPARE(m->home()->title(), "B25");
+    }
+
+    void theGuideLeadsBackToWhereItWasOpened()
+    {
+        fill();
+        m->home()->press(Qt::Key_Up);
+        m->home()->press(Qt::Key_Right);
+        m->home()->press(Qt::Key_Return);
+        QCOMPARE(m->screen(), "guide");
+        m->guide()->press(Qt::Key_Back);
+        QCOMPARE(m->screen(), "home");
+        QVERIFY(m->home()->isInHeader());
+        m->home()->press(Qt::Key_Down);
+        m->home()->press(Qt::Key_Return);
+        for (const Qt::Key key : { Qt::Key_Right, Qt::Key_Right, Qt::Key_Return })
+            m->detail()->press(key);
+        QCOMPARE(m->openScreens(), (QStringList { "home", "detail", "guide" }));
+        m->guide()->press(Qt::Key_Back);
+        QCOMPARE(m->screen(), "detail");
+    }
+
+    void onlyTheHomeScreenLeaves()
+    {
+        fill();
+        QSignalSpy leaving(m.get(), &ShellController::leaveRequested);
+        m->start("guide");
+        m->guide()->press(Qt::Key_Back);
+        m->goBack();
+        QCOMPARE(m->screen(), "home");
+        QCOMPARE(leaving.count(), 0);
+        for (int i = 0; i < 3; ++i)
+            m->home()->press(Qt::Key_Back);
+        QCOMPARE(leaving.count(), 1);
+    }
+
+    void aFavouriteShowsOnItsTile()
+    {
+        fill();
+        m->start("detail");
+        m->detail()->press(Qt::Key_Right);
+        m->detail()->press(Qt::Key_Return);
+        QAbstractItemModel *films = m->home()->rows()->ofKind(gallery::HomeRow::Films)->tiles();
+        QVERIFY(films->index(0, 0).data(gallery::TileModel::FavouriteRole).toBool());
+        QVERIFY(!films->index(1, 0).data(gallery::TileModel::FavouriteRole).toBool());
+    }
+
+    void theTimeGoesOnOnThePageOfAProgramme()
+    {
+        fill();
+        m->home()->press(Qt::Key_Return);
+        QCOMPARE(m->detail()->progress(), 5.0 / 30);
+        m->clock()->setFixed(guides::at(20, 15));
+        QCOMPARE(m->detail()->progress(), 0.5);
+        m->clock()->setFixed(guides::at(20, 31));
+        QCOMPARE(m->detail()->title(), "A41");
+    }
+
+    void allScreensAreMirroredTogether()
+    {
+        QSignalSpy changes(m.get(), &ShellController::mirroredChanged);
+        m->setMirrored(true);
+        m->setMirrored(true);
+        QCOMPARE(changes.count(), 1);
+        QVERIFY(m->home()->isMirrored() && m->detail()->isMirrored() && m->guide()->isMirrored());
+    }
+
+    void aStartBringsTheGuideBackToWhatIsOn()
+    {
+        fill();
+        m->start("guide");
+        for (const Qt::Key key : { Qt::Key_Right, Qt::Key_Down, Qt::Key_Return })
+            m->guide()->press(key);
+        m->start("guide");
+        QCOMPARE(m->guide()->title(), "A40");
+        QVERIFY(!m->guide()->isDetailsOpen());
+    }
+};
+
+STB_TEST_MAIN(tst_ShellController)
+#include "tst_shellcontroller.moc"
