@@ -234,6 +234,33 @@ private Q_SLOTS:
         }
     }
 
+    void tilesFillARowBetweenTheMarginsAndGrowIntoTheGaps_data()
+    {
+        QTest::addColumn<QString>("resolution");
+        QTest::addColumn<int>("programmes");
+        QTest::addColumn<int>("films");
+        QTest::newRow("hd") << QStringLiteral("hd") << 5 << 6;
+        QTest::newRow("fullhd") << QStringLiteral("fullhd") << 5 << 6;
+        QTest::newRow("sd") << QStringLiteral("sd") << 4 << 5;
+    }
+    void tilesFillARowBetweenTheMarginsAndGrowIntoTheGaps()
+    {
+        QFETCH(int, programmes);
+        QFETCH(int, films);
+        const auto theme = system();
+        const auto layout = [&](const char *name) { return theme->layouts()->property(name).toInt(); };
+        const int gap = layout("viewHorizontalSpacing");
+        const int row = layout("screenWidth") - layout("viewLeftMargin") - layout("viewRightMargin");
+        const auto check = [&](const TileStyle &tile, int count) {
+            const int width = tile.tileRect.width();
+            QCOMPARE((row + gap) / (width + gap), count);
+            QVERIFY(tile.tileRect.left() - tile.focusedRect.left() < gap / 2);
+            QVERIFY(tile.progressBarRect.width() <= width - 2 * tile.progressBarRect.left());
+        };
+        check(theme->contentTileStyle()->style(), programmes);
+        check(theme->vodTileStyle()->style(), films);
+    }
+
     void everythingGrowsByHalfFromHdToFullHd()
     {
         QmlDesignSystem theme;

@@ -309,7 +309,7 @@ private Q_SLOTS:
         const QmlDesignSystem system;
         QCOMPARE(object->property("spacing").toInt(),
                  system.playerEpgDelegateStyle()->style().titleSubtitleSpacing);
-        QCOMPARE(object->property("deep").toInt(), 24);
+        QCOMPARE(object->property("deep").toInt(), 20);
         QCOMPARE(object->property("berlin").value<QColor>(), QColor(0x5c, 0xc2, 0xf2));
         QCOMPARE(object->property("fade").toInt(), 300);
         QCOMPARE(object->property("shadow").toInt(), 96);
@@ -329,7 +329,7 @@ private Q_SLOTS:
                                          "}");
         QVERIFY(object);
         QVERIFY(QMetaObject::invokeMethod(object.get(), "change"));
-        QCOMPARE(object->property("deep").toInt(), 36);
+        QCOMPARE(object->property("deep").toInt(), 30);
         QCOMPARE(object->property("width").toInt(), 1920);
     }
 
