@@ -34,8 +34,8 @@ private Q_SLOTS:
         const QSize subtitle = textSize(oddButtonStyle().subtitleStyle, "From the start");
         const int total = title.height() + subtitle.height() + 5;
         QCOMPARE(nodes[0].rect, QRectF(0, 27, 21, 33));
-        QCOMPARE(nodes[1].rect, QRectF(QPointF(41, 43 - total / 2), title));
-        QCOMPARE(nodes[2].rect, QRectF(QPointF(41, 43 + total / 2 - subtitle.height()), subtitle));
+        QCOMPARE(nodes[1].rect, QRectF(QRect(QPoint(41, 43 - total / 2), title)));
+        QCOMPARE(nodes[2].rect, QRectF(QRect(QPoint(41, 43 + total / 2 - subtitle.height()), subtitle)));
         QCOMPARE(nodes[3].rect, QRectF(273, 29, 27, 19));
     }
 
@@ -210,7 +210,7 @@ private Q_SLOTS:
             scene.stage.renderFrame();
             QCOMPARE(scene.children().size(), 1);
             const NodeInfo icon = scene.children().first();
-            QCOMPARE(icon.rect, QRectF(313 / 2 - 15 / 2, 43 - 11 / 2, 15, 11));
+            QCOMPARE(icon.rect, QRectF(156 - 7, 43 - 5, 15, 11));
             QCOMPARE(icon.pixmap.size(), QSize(15, 11));
             QVERIFY(isPaintedIn(icon.pixmap, Qt::black));
         }
