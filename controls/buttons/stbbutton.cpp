@@ -281,9 +281,10 @@ bool StbButtonPrivate::setIconSource(IconNodeBuilder &icon, const QString &sourc
     const QLatin1String scheme("qrc");
     const QString path = source.startsWith(scheme) ? source.mid(scheme.size()) : source;
     if (path != icon.source()) {
-        icon.clear(); // else a picture stays when another source follows
+        if (!icon.pixmap().isNull())
+            icon.clear(); // else a picture stays when another source follows
         icon.load(path, QColor());
-        icon.colorize(QColor()); // clear() leaves a tint behind that the new picture has not got
+        icon.colorize(QColor()); // clear() leaves a tint behind; reads again only then
     }
     Q_EMIT(q->*changed)();
     return true;
