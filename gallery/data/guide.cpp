@@ -68,11 +68,9 @@ Programme Guide::programme(int channel, int programme) const
 {
     Q_ASSERT(programme >= 0 && programme < programmeCount(channel));
     const ProgrammeRecord &record = m_data->channels[size_t(channel)].programmes[size_t(programme)];
-    return { { record.start, record.stop },
-             TextPool::text(record.title),
-             TextPool::text(record.subTitle),
-             TextPool::text(record.description),
-             TextPool::text(record.category) };
+    return { { record.start, record.stop },   TextPool::text(record.title),
+             TextPool::text(record.subTitle), TextPool::text(record.description),
+             TextPool::text(record.category), QUrl::fromEncoded(TextPool::text(record.picture).toLatin1()) };
 }
 
 TimeSpan Guide::timeSpan(int channel, int programme) const

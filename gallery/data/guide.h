@@ -45,6 +45,8 @@ struct Programme
     QString subTitle;
     QString description;
     QString category;
+    /*! The programme's picture: a web address or an existing local file; empty when the guide has none. */
+    QUrl picture;
 };
 
 /*!

@@ -24,6 +24,7 @@ struct ProgrammeRecord
     TextPool::Ref subTitle = nullptr;
     TextPool::Ref description = nullptr;
     TextPool::Ref category = nullptr;
+    TextPool::Ref picture = nullptr; // the encoded address
     qint32 clumpIndex = 0;
     qint32 length = 0; // seconds, 0 when not known; only used for a last programme without stop
 };

@@ -20,7 +20,8 @@ bool sameProgramme(const ProgrammeRecord &a, const ProgrammeRecord &b)
 {
     return a.start == b.start && a.stop == b.stop && a.clumpIndex == b.clumpIndex
            && TextPool::equal(a.title, b.title) && TextPool::equal(a.subTitle, b.subTitle)
-           && TextPool::equal(a.description, b.description) && TextPool::equal(a.category, b.category);
+           && TextPool::equal(a.description, b.description) && TextPool::equal(a.category, b.category)
+           && TextPool::equal(a.picture, b.picture);
 }
 
 // A missing stop is the next start that is later than the own one: clumps start together.
@@ -132,6 +133,7 @@ void GuideBuilder::addProgramme(const NewProgramme &programme)
     record.subTitle = texts.add(programme.subTitle);
     record.description = texts.add(programme.description);
     record.category = texts.add(programme.category);
+    record.picture = texts.add(programme.picture.toString(QUrl::FullyEncoded));
     record.clumpIndex = programme.clumpIndex;
     record.length = programme.length;
     m_data->channels[channelIndex(programme.channelId)].programmes.push_back(record);

@@ -22,6 +22,7 @@ struct NewProgramme
     QString subTitle;
     QString description;
     QString category;
+    QUrl picture;
     /*! Programmes that share one time are shown in this order. */
     int clumpIndex = 0;
     /*! Length in seconds, 0 when not known; ends the last programme of a channel that has no stop. */

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "gallery/data/programmemodel.h"
 
+#include "gallery/data/programmestills.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -151,6 +153,9 @@ QVariant ProgrammeModel::textData(int row, int role) const
         return programme.description;
     case CategoryRole:
         return programme.category;
+    case PictureRole:
+        return programme.picture.isEmpty() ? programmeStill(programme.category, programme.title)
+                                           : programme.picture;
     default:
         return {};
     }
@@ -170,7 +175,8 @@ QHash<int, QByteArray> ProgrammeModel::roleNames() const
              { StopRole, "stop" },
              { ProgressRole, "progress" },
              { DescriptionRole, "description" },
-             { CategoryRole, "category" } };
+             { CategoryRole, "category" },
+             { PictureRole, "picture" } };
 }
 
 TimeSpan ProgrammeModel::timeOf(int row) const

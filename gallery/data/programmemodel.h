@@ -44,7 +44,8 @@ public:
         StopRole, /*!< stop: QDateTime, local time */
         ProgressRole, /*!< progress: double, 0 before the start to 1 from the stop on */
         DescriptionRole, /*!< description: QString, may be empty */
-        CategoryRole /*!< category: QString, may be empty */
+        CategoryRole, /*!< category: QString, may be empty */
+        PictureRole /*!< picture: QUrl, a wide picture: the guide's, or one drawn for the category */
     };
     Q_ENUM(Role)
 

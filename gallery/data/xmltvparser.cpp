@@ -162,9 +162,9 @@ void XmltvParser::startDetail()
             { u"length", Length },
     } };
     m_text.clear();
+    if (m_xml.name() == u"icon")
+        m_choices[Icon].offer(m_xml.attributes().value(QLatin1String("src")).trimmed().toString(), 0);
     if (m_element == Element::Channel) {
-        if (m_xml.name() == u"icon")
-            m_choices[Icon].offer(m_xml.attributes().value(QLatin1String("src")).trimmed().toString(), 0);
         m_slot = m_xml.name() == u"display-name" ? Name : NoSlot;
     } else {
         const auto detail = std::find_if(programmeDetails.cbegin(), programmeDetails.cend(),
@@ -230,6 +230,7 @@ void XmltvParser::finishProgramme()
     programme.subTitle = m_choices[SubTitle].text;
     programme.description = m_choices[Description].text;
     programme.category = m_choices[Category].text;
+    programme.picture = iconUrl(m_choices[Icon].text);
     programme.clumpIndex = clumpIndex();
     const QStringView length = m_choices[Length].text;
     const qsizetype blank = length.indexOf(u' ');

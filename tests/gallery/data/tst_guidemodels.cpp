@@ -226,12 +226,12 @@ void TestGuideModels::rolesHaveTheirNames()
 {
     const ProgrammeModel model;
     QStringList names;
-    for (int role = ProgrammeModel::TitleRole; role <= ProgrammeModel::CategoryRole; ++role)
+    for (int role = ProgrammeModel::TitleRole; role <= ProgrammeModel::PictureRole; ++role)
         names.append(QString::fromLatin1(model.roleNames().value(role)));
     QCOMPARE(names.join(u' '),
              QStringLiteral(
                      "title subtitle startTimeText stopTimeText isLive isFuture isPast isPlayable start stop "
-                     "progress description category"));
+                     "progress description category picture"));
 }
 
 void TestGuideModels::aRowTellsItsTexts()

@@ -47,6 +47,7 @@ private Q_SLOTS:
     void aNumericNameIsTheNumber();
     void aPictureBesideTheFileIsFound();
     void aWebPictureIsKeptAsItIs();
+    void aProgrammeHasThePictureOfItsGuide();
     void textOfDeeperElementsStaysOut();
     void entitiesAndCharacterDataAreText();
     void anEntityThatNobodyDeclaresStaysAsWritten();
@@ -443,6 +444,22 @@ void TestGuideReader::aWebPictureIsKeptAsItIs()
     const Guide guide = read(tv(R"(<channel id="a"><icon src="https://example.com/a.png?x=1"/></channel>)"))
                                 .guide;
     QCOMPARE(guide.channel(0).icon, QUrl(QStringLiteral("https://example.com/a.png?x=1")));
+}
+
+void TestGuideReader::aProgrammeHasThePictureOfItsGuide()
+{
+    const Guide guide = read(tv(R"(<programme start="2015" channel="c"><title>A</title>
+        <icon src="https://h/Ж a.png?x=1&amp;y=%20"/></programme>
+        <programme start="2016" channel="c"><title>B</title></programme>
+        <programme start="2017" channel="c"><title>C</title><icon src="none.png"/></programme>
+        <programme start="2018" channel="c"><title>D</title><icon src="https://h/1"/></programme>
+        <programme start="2018" channel="c"><title>D</title><icon src="https://h/2"/></programme>)"))
+                                .guide;
+    const QUrl first(QString::fromUtf8("https://h/Ж a.png?x=1&y=%20"));
+    QCOMPARE(guide.programme(0, 0).picture, first);
+    QCOMPARE(guide.programme(0, 1).picture, QUrl());
+    QCOMPARE(guide.programme(0, 2).picture, QUrl());
+    QCOMPARE(guide.programmeCount(0), 5); // the last two differ in their pictures
 }
 
 void TestGuideReader::textOfDeeperElementsStaysOut()

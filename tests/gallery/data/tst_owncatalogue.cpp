@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "gallery/data/cataloguereader.h"
+#include "gallery/data/guidebuilder.h"
 #include "gallery/data/ownguide.h"
+#include "gallery/data/programmemodel.h"
 #include "gallery/data/programmestills.h"
 #include "testkit/testcase.h"
 
@@ -27,6 +29,7 @@ private Q_SLOTS:
     void categoriesOfOtherGuidesHaveTheirStill_data();
     void categoriesOfOtherGuidesHaveTheirStill();
     void anUnknownCategoryHasAStillByTitle();
+    void aProgrammeShowsItsPictureOrTheStill();
 };
 
 namespace {
@@ -214,6 +217,29 @@ void TestOwnCatalogue::anUnknownCategoryHasAStillByTitle()
         stills.insert(still);
     }
     QVERIFY(stills.size() > 1);
+}
+
+void TestOwnCatalogue::aProgrammeShowsItsPictureOrTheStill()
+{
+    const QDateTime start = QDateTime::fromString(QStringLiteral("2026-05-13T20:05:00"), Qt::ISODate);
+    const QUrl own(QStringLiteral("https://h/a.png"));
+    NewProgramme programme;
+    programme.channelId = QStringLiteral("c");
+    programme.title = QStringLiteral("A");
+    programme.category = QStringLiteral("Weather");
+    GuideBuilder builder;
+    for (const QUrl &picture : { own, QUrl() }) {
+        programme.start = start.toSecsSinceEpoch() + (picture.isEmpty() ? 600 : 0);
+        programme.picture = picture;
+        builder.addProgramme(programme);
+    }
+    ProgrammeModel model;
+    model.setGuide(builder.take());
+    model.setChannel(0);
+    model.setDate(start.date());
+    QCOMPARE(model.index(0).data(ProgrammeModel::PictureRole).toUrl(), own);
+    QCOMPARE(model.index(1).data(ProgrammeModel::PictureRole).toUrl(),
+             programmeStill(programme.category, QString()));
 }
 
 STB_TEST_MAIN(TestOwnCatalogue)

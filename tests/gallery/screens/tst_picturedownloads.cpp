@@ -199,6 +199,7 @@ void TestPictureDownloads::aSlowServerHoldsNothingElseUp()
     const Server quick(answer(picture()));
     PictureEngine engine;
     std::vector<std::unique_ptr<PictureRequest>> waiting;
+    waiting.reserve(20);
     for (int i = 0; i < 20; ++i)
         waiting.push_back(std::make_unique<PictureRequest>(&engine, Pictures::filling(slow.url(), 30, i + 1)));
     QTRY_VERIFY(slow.connections() > 0);
@@ -235,6 +236,7 @@ void TestPictureDownloads::manyDownloadsAtOnceAllArrive()
     const Server server(answer(picture()));
     PictureEngine engine;
     std::vector<std::unique_ptr<PictureRequest>> requests;
+    requests.reserve(100);
     for (int i = 0; i < 100; ++i)
         requests.push_back(
                 std::make_unique<PictureRequest>(&engine, Pictures::filling(server.url(), 30, 1 + i % 60)));

@@ -315,6 +315,7 @@ void TestPictureProvider::manyPicturesAtOnceAllArrive()
 {
     PictureEngine engine;
     std::vector<std::unique_ptr<PictureRequest>> requests;
+    requests.reserve(300);
     for (int i = 0; i < 300; ++i)
         requests.push_back(
                 std::make_unique<PictureRequest>(&engine, Pictures::filling(file(m_stripes), i + 1, 20)));
@@ -328,6 +329,7 @@ void TestPictureProvider::requestsTakenBackLeaveTheOthersAlone()
 {
     PictureEngine engine;
     std::vector<std::unique_ptr<PictureRequest>> requests;
+    requests.reserve(60);
     for (int i = 0; i < 60; ++i)
         requests.push_back(
                 std::make_unique<PictureRequest>(&engine, Pictures::filling(file(m_large), 30, i + 1)));
@@ -343,6 +345,7 @@ void TestPictureProvider::theEngineMayGoWhilePicturesAreRead()
 {
     for (int round = 0; round < 10; ++round) {
         std::vector<std::unique_ptr<PictureRequest>> requests;
+        requests.reserve(30);
         auto engine = std::make_unique<PictureEngine>();
         for (int i = 0; i < 30; ++i)
             requests.push_back(std::make_unique<PictureRequest>(engine.get(),
