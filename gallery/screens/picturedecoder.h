@@ -25,7 +25,7 @@ struct DecodedPicture
     QString error;
 };
 
-/*! The most pixels that a picture may have. Decoding one of this size takes up to 90 MB. */
+/*! The most pixels that a picture may have. Decoding one of this size takes up to about 100 MB. */
 constexpr int maximumPicturePixels = 16 * 1024 * 1024;
 /*! The most bytes that are read of a picture. */
 constexpr qint64 maximumPictureBytes = 32 * 1024 * 1024;

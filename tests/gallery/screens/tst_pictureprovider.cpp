@@ -291,7 +291,7 @@ void TestPictureProvider::theLargestPictureTakesLittleMemory_data()
     QTest::addColumn<int>("pictureFormat");
     QTest::addColumn<int>("megabytes");
     QTest::newRow("PNG") << QByteArray("PNG") << int(QImage::Format_RGB888) << 32;
-    QTest::newRow("grey PNG") << QByteArray("PNG") << int(QImage::Format_Grayscale8) << 96;
+    QTest::newRow("grey PNG") << QByteArray("PNG") << int(QImage::Format_Grayscale8) << 112;
     QTest::newRow("JPEG") << QByteArray("JPEG") << int(QImage::Format_RGB888) << 32;
 }
 
