@@ -2,6 +2,7 @@
 #include "scenegraph/nodehelpers.h"
 
 #include "plugin/qmlsettings.h"
+#include "scenegraph/childnodes.h"
 #include "scenegraph/qtcompat_p.h"
 
 #include <design_system/qmldesignsystem.h>
@@ -215,6 +216,23 @@ void setNodeColor(QSGRectangleNode *node, const QColor &color)
 {
     if (node->color() != color)
         node->setColor(color);
+}
+
+QColor visibleColor(const QColor &color)
+{
+    return color.isValid() ? color : QColor(Qt::transparent);
+}
+
+QSGRectangleNode *placeRectangleNode(ChildNodes &children, bool wanted, bool &present, QSGContext *context,
+                                     const QColor &color)
+{
+    const QColor fill = visibleColor(color);
+    auto *node = children.place<QSGRectangleNode>(wanted, present, [&](QSGNode *root, QSGNode *before) {
+        return createRectangleNode(context, fill, root, before);
+    });
+    if (node)
+        setNodeColor(node, fill);
+    return node;
 }
 
 qml::QmlSettings *qmlSettings(QQuickItem *item)

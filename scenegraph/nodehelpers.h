@@ -38,6 +38,8 @@ class TextRenderer;
 */
 namespace qml_basic_plugin {
 
+class ChildNodes;
+
 /*!
     A new image node with \a texture. \a parent must not be null. The texture's owner stays who it was, until
     updateTextureInNode() has to replace a texture that cannot take an image: the node owns the new one.
@@ -98,6 +100,16 @@ void setNodeRect(QSGRectangleNode *node, const QRectF &rect);
 
 /*! Sets the node's fill when it is another one. */
 void setNodeColor(QSGRectangleNode *node, const QColor &color);
+
+/*! \a color, or transparent for a colour that is not set: a node would paint it black. */
+QColor visibleColor(const QColor &color);
+
+/*!
+    The rectangle node at the next place of \a children, filled with the visibleColor() of \a color, or null when
+    it is not \a wanted. \a present is the place's presence flag. Its rectangle is the caller's.
+*/
+QSGRectangleNode *placeRectangleNode(ChildNodes &children, bool wanted, bool &present, QSGContext *context,
+                                     const QColor &color);
 
 /*!
     The QmlSettings singleton of the item's engine, created by the engine when this is its first use. Null

@@ -36,11 +36,6 @@ int bounded(double value)
     return value < highest ? int(value) : highest;
 }
 
-QColor visibleColor(const QColor &color)
-{
-    return color.isValid() ? color : QColor(Qt::transparent); // an invalid one would paint black
-}
-
 bool hasBorder(const QPen &pen)
 {
     return pen.color().isValid() && pen.widthF() > 0;

@@ -9,15 +9,6 @@
 using namespace qml_basic_plugin;
 using design_system::TileStyle;
 
-namespace {
-
-QColor visibleColor(const QColor &color)
-{
-    return color.isValid() ? color : QColor(Qt::transparent); // an invalid one would paint black
-}
-
-} // namespace
-
 StbVodTilePrivate::StbVodTilePrivate() = default;
 StbVodTilePrivate::~StbVodTilePrivate() = default;
 
@@ -116,23 +107,12 @@ void StbVodTilePrivate::forgetNodes()
     m_progressValuePresent = false;
 }
 
-QSGRectangleNode *StbVodTilePrivate::placeRectangle(ChildNodes &children, bool wanted, bool &present,
-                                                    const QColor &styleColor)
-{
-    const QColor color = visibleColor(styleColor);
-    auto *node = children.place<QSGRectangleNode>(wanted, present, [&](QSGNode *root, QSGNode *before) {
-        return createRectangleNode(sceneGraphContext(), color, root, before);
-    });
-    if (node)
-        setNodeColor(node, color);
-    return node;
-}
-
 // The badge, made with its first text and kept from then on, holds the text as its only child.
 QSGRectangleNode *StbVodTilePrivate::updateBadge(ChildNodes &children, const TileStyle &style)
 {
-    QSGRectangleNode *badge = placeRectangle(children, m_ratingPresent || !m_rating.text().isEmpty(),
-                                             m_ratingPresent, style.ratingBadgeColor);
+    QSGRectangleNode *badge = placeRectangleNode(children, m_ratingPresent || !m_rating.text().isEmpty(),
+                                                 m_ratingPresent, sceneGraphContext(),
+                                                 style.ratingBadgeColor);
     if (!badge)
         return nullptr;
     if (children.created())
@@ -163,11 +143,11 @@ QSGNode *StbVodTilePrivate::updateExtendedNodes(const TileStyle &style, QSGNode 
         setNodeRect(badge, QRectF(layout.ratingBadge));
         placeImageNode(static_cast<QSGImageNode *>(badge->firstChild()), layout.ratingText);
     }
-    if (auto *track = placeRectangle(children, layout.trackShown, m_progressTrackPresent,
-                                     style.progressTrackColor))
+    if (auto *track = placeRectangleNode(children, layout.trackShown, m_progressTrackPresent,
+                                         sceneGraphContext(), style.progressTrackColor))
         setNodeRect(track, QRectF(layout.progressTrack));
-    if (auto *value = placeRectangle(children, layout.progressShown, m_progressValuePresent,
-                                     style.progressValueColor))
+    if (auto *value = placeRectangleNode(children, layout.progressShown, m_progressValuePresent,
+                                         sceneGraphContext(), style.progressValueColor))
         setNodeRect(value, QRectF(layout.progressValue));
     return nullptr; // no tile derives from this one
 }

@@ -31,8 +31,6 @@ public:
     bool m_progressValuePresent = false;
 
 private:
-    QSGRectangleNode *placeRectangle(qml_basic_plugin::ChildNodes &children, bool wanted, bool &present,
-                                     const QColor &styleColor);
     QSGRectangleNode *updateBadge(qml_basic_plugin::ChildNodes &children, const Style &style);
 };
 
