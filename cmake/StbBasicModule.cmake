@@ -40,6 +40,9 @@ qt_add_qml_module(${module}
         controls/epg/stbepgdate.cpp controls/epg/stbepgdate.h controls/epg/stbepgdate_p.h
         controls/epg/stbepgdatelayout.cpp controls/epg/stbepgdatelayout.h
         controls/epg/stbepgviewdelegate.cpp controls/epg/stbepgviewdelegate.h controls/epg/stbepgviewdelegate_p.h
+        controls/epg/stbepgviewdelegatefocused.cpp controls/epg/stbepgviewdelegatefocused.h
+        controls/epg/stbepgviewdelegatefocused_p.h
+        controls/epg/stbepgviewdelegatefocusedlayout.cpp controls/epg/stbepgviewdelegatefocusedlayout.h
         controls/epg/stbepgviewdelegatelayout.cpp controls/epg/stbepgviewdelegatelayout.h
         controls/epg/stbhorizontalepgviewdelegate.cpp controls/epg/stbhorizontalepgviewdelegate.h
         controls/epg/stbhorizontalepgviewdelegate_p.h

@@ -60,6 +60,7 @@ private Q_SLOTS:
         QTest::newRow("ContentTile") << "StbContentTile";
         QTest::newRow("EpgDate") << "StbEpgDate";
         QTest::newRow("EpgViewDelegate") << "StbEpgViewDelegate";
+        QTest::newRow("EpgViewDelegateFocused") << "StbEpgViewDelegateFocused";
         QTest::newRow("ExpandableTile") << "StbExpandableTile";
         QTest::newRow("HorizontalEpgViewDelegate") << "StbHorizontalEpgViewDelegate";
         QTest::newRow("VodTile") << "StbVodTile";

@@ -1,0 +1,578 @@
+// SPDX-License-Identifier: MIT
+#include "focusedscene.h"
+#include "testkit/pictures.h"
+#include "testkit/testcase.h"
+
+#include <controls/epg/stbepgviewdelegatefocusedlayout.h>
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+using Layout = StbEpgViewDelegateFocusedLayout;
+using Style = design_system::PlayerEpgDelegateStyle;
+using StyleObject = design_system::PlayerEpgDelegateQmlStyle;
+using stbtest::NodeInfo;
+
+namespace {
+
+struct State
+{
+    bool playable = false;
+    bool live = false;
+    bool past = false;
+    bool future = false;
+    bool reminder = false;
+};
+
+const State playable { true, false, false, false, false };
+const State playableLive { true, true, false, false, false };
+const State past { false, false, true, false, false };
+const State future { false, false, false, true, false };
+const State reminded { false, false, false, true, true };
+const State pastAndFuture { false, false, true, true, false };
+const State neither {};
+
+void apply(FocusedScene &scene, const State &state)
+{
+    scene.setState(state.playable, state.live, state.past, state.future, state.reminder);
+}
+
+QString status(const State &state)
+{
+    if (state.past)
+        return "Not available any more";
+    return state.reminder ? "Reminder is set" : "On air soon";
+}
+
+// What the card has to hold in a state, told by the rules alone: "rectangle #colour" or "image WxH".
+QStringList expectedParts(const State &state)
+{
+    const Style style = oddEpgStyle();
+    const auto rectangle = [](const QColor &color) { return "rectangle " + color.name(QColor::HexArgb); };
+    const auto text = [](const design_system::TextStyle &textStyle, const QString &string) {
+        const QRect extent = textExtent(textStyle, string, 417);
+        return QStringLiteral("image %1x%2").arg(extent.width()).arg(extent.height());
+    };
+    if (state.playable) {
+        QStringList parts;
+        if (state.live)
+            parts << rectangle(style.progressPlayedColor) << rectangle(style.progressRemainderColor);
+        return parts << "image 41x43";
+    }
+    QStringList parts;
+    if (state.past || state.future)
+        parts << text(style.statusTextStyle, status(state));
+    if (state.future) {
+        const QString action = state.reminder ? "Forget the reminder" : "Remind me";
+        parts << rectangle(style.reminderActionTextStyle.backgroundColor)
+              << "- " + text(style.reminderActionTextStyle, action)
+              << text(style.startsAtTextStyle, "From 20:05") << "image 21x23";
+    }
+    return parts;
+}
+
+QStringList shownParts(FocusedScene &scene)
+{
+    QStringList parts;
+    for (const NodeInfo &node : stbtest::nodeTree(scene.card().node).mid(1)) {
+        const QString indent = node.depth > 1 ? "- " : "";
+        if (node.type == "Rectangle")
+            parts << indent + "rectangle " + node.color.name(QColor::HexArgb);
+        else
+            parts << indent + QStringLiteral("image %1x%2").arg(node.pixmap.width()).arg(node.pixmap.height());
+    }
+    return parts;
+}
+
+QImage pictureOf(const State &state, const std::function<void(FocusedScene &)> &change = {})
+{
+    FocusedScene scene;
+    scene.fill();
+    apply(scene, state);
+    if (change)
+        change(scene);
+    scene.stage.renderFrame();
+    return scene.stage.picture();
+}
+
+} // namespace
+
+class tst_StbEpgViewDelegateFocusedCard : public stbtest::TestCase
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void everyStateShowsItsParts_data()
+    {
+        QTest::addColumn<int>("bits");
+        for (int bits = 0; bits < 32; ++bits) {
+            QByteArrayList words;
+            const std::array names { "playable", "live", "past", "future", "reminder" };
+            for (int i = 0; i < 5; ++i) {
+                if (bits >> i & 1)
+                    words << names[i];
+            }
+            QTest::newRow(bits ? words.join(", ").constData() : "nothing") << bits;
+        }
+    }
+    void everyStateShowsItsParts()
+    {
+        QFETCH(int, bits);
+        const State state { bool(bits & 1), bool(bits & 2), bool(bits & 4), bool(bits & 8), bool(bits & 16) };
+        FocusedScene scene;
+        scene.fill();
+        apply(scene, state);
+        scene.stage.renderFrame();
+        QCOMPARE(shownParts(scene), expectedParts(state));
+    }
+
+    void aCardIsThereInEveryState()
+    {
+        FocusedScene scene;
+        scene.fill();
+        scene.stage.renderFrame();
+        QCOMPARE(scene.children().size(), 4);
+        QCOMPARE(scene.card().type, "Rectangle");
+        QCOMPARE(scene.card().color, QColor(13, 17, 61, 117));
+        QCOMPARE(scene.card().rect, QRectF(131, 53, 417, 211));
+        QCOMPARE(scene.parts().size(), 0);
+    }
+
+    void everyPartIsInItsPlace_data()
+    {
+        QTest::addColumn<bool>("withReminder");
+        QTest::newRow("without a reminder") << false;
+        QTest::newRow("with a reminder") << true;
+    }
+    void everyPartIsInItsPlace()
+    {
+        QFETCH(bool, withReminder);
+        FocusedScene scene;
+        const Style style = oddEpgStyle();
+        scene.fill();
+        apply(scene, withReminder ? reminded : future);
+        scene.stage.renderFrame();
+        const QString action = withReminder ? "Forget the reminder" : "Remind me";
+        Layout::Content content;
+        content.reminderIcon = QSize(21, 23);
+        content.status = textExtent(style.statusTextStyle, withReminder ? "Reminder is set" : "On air soon",
+                                    417);
+        content.startsAt = textExtent(style.startsAtTextStyle, "From 20:05", 417);
+        content.reminderAction = textExtent(style.reminderActionTextStyle, action, 417);
+        const Layout layout = Layout::compute(style, content);
+        const QList<NodeInfo> parts = scene.parts();
+        QCOMPARE(parts[0].rect, QRectF(layout.status));
+        QCOMPARE(parts[1].rect, QRectF(131, 164, 417, 47));
+        QCOMPARE(stbtest::childNodes(parts[1].node)[0].rect, QRectF(layout.reminderAction));
+        QCOMPARE(parts[2].rect, QRectF(layout.startsAt));
+        QCOMPARE(parts[3].rect, QRectF(layout.reminderIcon));
+    }
+
+    void theNoticeStandsInTheMiddle()
+    {
+        FocusedScene scene;
+        scene.fill();
+        apply(scene, past);
+        scene.stage.renderFrame();
+        const QRect text = textExtent(oddEpgStyle().statusTextStyle, "Not available any more", 417);
+        QCOMPARE(scene.parts()[0].rect, QRectF(131 + (417 - text.width()) / 2, (211 - text.height()) / 2,
+                                               text.width(), text.height()));
+    }
+
+    void theNoticeOfAProgrammeThatIsAlsoFutureStandsInTheStack()
+    {
+        FocusedScene scene;
+        scene.fill();
+        apply(scene, pastAndFuture);
+        scene.stage.renderFrame();
+        const QList<NodeInfo> parts = scene.parts();
+        QCOMPARE(parts[0].rect.top(), parts[3].rect.bottom() + 19);
+        QCOMPARE(parts[2].rect.top(), parts[0].rect.bottom());
+    }
+
+    void everyTextHasItsColour()
+    {
+        const Style style = oddEpgStyle();
+        FocusedScene scene;
+        scene.fill();
+        apply(scene, future);
+        scene.stage.renderFrame();
+        const QList<NodeInfo> parts = scene.parts();
+        QCOMPARE(parts[0].pixmap.toImage(),
+                 textPicture(style.statusTextStyle, "On air soon", 417, style.statusTextStyle.color));
+        QCOMPARE(stbtest::childNodes(parts[1].node)[0].pixmap.toImage(),
+                 textPicture(style.reminderActionTextStyle, "Remind me", 417,
+                             style.reminderActionTextStyle.color));
+        QCOMPARE(parts[2].pixmap.toImage(),
+                 textPicture(style.startsAtTextStyle, "From 20:05", 417, style.startsAtTextStyle.color));
+        const QImage bell(":/resources/icons/reminder_small.png");
+        QCOMPARE(parts[3].pixmap.toImage().convertToFormat(bell.format()), bell); // in its own colours
+    }
+
+    void thePlayIconIsTintedWithTheStylesColour()
+    {
+        FocusedScene scene;
+        scene.fill();
+        apply(scene, playable);
+        scene.stage.renderFrame();
+        const NodeInfo icon = scene.parts()[0];
+        QCOMPARE(icon.rect, QRectF(131 + (417 - 41) / 2, (211 - 43) / 2, 41, 43));
+        QCOMPARE(icon.pixmap.toImage().pixelColor(15, 21), QColor(101, 231, 141));
+        QCOMPARE(icon.pixmap.toImage().pixelColor(2, 21), QColor(0, 0, 0)); // black stays black
+        StyleObject other;
+        Style values = oddEpgStyle();
+        values.playIconColor = QColor(231, 101, 41);
+        other.setStyle(values);
+        scene.row->setStyle(&other);
+        scene.stage.renderFrame();
+        QCOMPARE(scene.parts()[0].node, icon.node);
+        QCOMPARE(scene.parts()[0].pixmap.toImage().pixelColor(15, 21), QColor(231, 101, 41));
+    }
+
+    void theStartTimeLineFollowsTheRowsStartTime()
+    {
+        FocusedScene scene;
+        scene.fill();
+        apply(scene, future);
+        scene.stage.renderFrame();
+        scene.row->setStartTimeText("23:55 tomorrow");
+        scene.stage.renderFrame();
+        const QRect text = textExtent(oddEpgStyle().startsAtTextStyle, "From 23:55 tomorrow", 417);
+        const NodeInfo line = scene.parts()[2];
+        QCOMPARE(line.pixmap.size(), text.size());
+        QCOMPARE(line.rect.left(), 131 + (417 - text.width()) / 2);
+        QCOMPARE(line.rect.size(), QSizeF(text.size()));
+    }
+
+    void aStartTimeWithAPlaceholderIsShownAsItIs()
+    {
+        FocusedScene scene;
+        scene.fill();
+        scene.row->setStartTimeText("%1 %2");
+        apply(scene, future);
+        scene.stage.renderFrame();
+        QCOMPARE(scene.parts()[2].pixmap.size(),
+                 textExtent(oddEpgStyle().startsAtTextStyle, "From %1 %2", 417).size());
+    }
+
+    void theBarShowsTheProgress_data()
+    {
+        QTest::addColumn<double>("progress");
+        QTest::addColumn<int>("filled");
+        constexpr double infinity = std::numeric_limits<double>::infinity();
+        QTest::newRow("0") << 0.0 << 0;
+        QTest::newRow("0.5") << 0.5 << 181;
+        QTest::newRow("1") << 1.0 << 363;
+        QTest::newRow("outside") << 7.0 << 363;
+        QTest::newRow("below") << -7.0 << 0;
+        QTest::newRow("infinity") << infinity << 363;
+        QTest::newRow("negative infinity") << -infinity << 0;
+        QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN() << 0;
+    }
+    void theBarShowsTheProgress()
+    {
+        QFETCH(double, progress);
+        QFETCH(int, filled);
+        FocusedScene scene;
+        scene.fill();
+        apply(scene, playableLive);
+        scene.row->setProgress(progress);
+        scene.stage.renderFrame();
+        QCOMPARE(scene.parts()[0].rect, QRectF(158, 175, filled, 9));
+        QCOMPARE(scene.parts()[1].rect, QRectF(158 + filled - 1, 175, 363 - filled, 9));
+    }
+
+    void theRemainderLiesOverTheLastPixelOfThePlayedPart()
+    {
+        FocusedScene scene;
+        scene.fill();
+        apply(scene, playableLive);
+        scene.row->setProgress(0.5);
+        scene.stage.renderFrame();
+        const auto pixel = [&](int x) {
+            return scene.stage.picture().pixelColor(rowPosition + QPoint(x, 179));
+        };
+        QCOMPARE(pixel(158 + 179), QColor(221, 41, 61));
+        QCOMPARE(pixel(158 + 180), QColor(151, 153, 157)); // the overlap
+        QCOMPARE(pixel(158 + 361), QColor(151, 153, 157));
+        QVERIFY(pixel(158 + 362) != QColor(151, 153, 157)); // which is missing at the end
+    }
+
+    void aBarWiderThanItsCardPaintsNothing()
+    {
+        Style style = oddEpgStyle();
+        style.progressBarRect.moveLeft(300);
+        StyleObject object;
+        object.setStyle(style);
+        FocusedScene scene;
+        scene.fill();
+        apply(scene, playableLive);
+        scene.row->setProgress(0.5);
+        scene.row->setStyle(&object);
+        scene.stage.renderFrame();
+        QVERIFY(scene.parts()[0].rect.isEmpty());
+        QVERIFY(scene.parts()[1].rect.isEmpty());
+    }
+
+    void theOrderIsTheSameInWhateverOrderThePartsCome()
+    {
+        const QList<State> states { playable, playableLive, past, future, reminded, pastAndFuture, neither };
+        FocusedScene scene;
+        scene.fill();
+        for (const State &first : states) {
+            for (const State &second : states) {
+                apply(scene, first);
+                scene.stage.renderFrame();
+                apply(scene, second);
+                scene.stage.renderFrame();
+                QCOMPARE(shownParts(scene), expectedParts(second));
+            }
+        }
+    }
+
+    void thePartsThatStayKeepTheirNodes()
+    {
+        FocusedScene scene;
+        scene.fill();
+        apply(scene, playable);
+        scene.stage.renderFrame();
+        const QSGNode *icon = scene.parts()[0].node;
+        apply(scene, playableLive);
+        scene.stage.renderFrame();
+        QCOMPARE(scene.parts().size(), 3);
+        QCOMPARE(scene.parts()[2].node, icon); // the bar goes below it
+        apply(scene, past);
+        scene.stage.renderFrame();
+        const QSGNode *notice = scene.parts()[0].node;
+        apply(scene, pastAndFuture);
+        scene.stage.renderFrame();
+        QCOMPARE(scene.parts()[0].node, notice);
+    }
+
+    void everyStateLooksLikeThatOfAFreshRow()
+    {
+        const QList<State> states { playableLive, future, past, reminded, playable, pastAndFuture, neither };
+        FocusedScene scene;
+        scene.fill();
+        for (const State &state : states) {
+            apply(scene, state);
+            scene.stage.renderFrame();
+            QCOMPARE(stbtest::comparePictures(scene.stage.picture(), pictureOf(state)).text(), QString());
+        }
+    }
+
+    void aLateBadgeGoesBelowTheCard()
+    {
+        FocusedScene scene;
+        scene.fill();
+        scene.stage.renderFrame();
+        const QSGNode *card = scene.card().node;
+        scene.row->setLive(true);
+        scene.stage.renderFrame();
+        QCOMPARE(scene.children().size(), 5);
+        QCOMPARE(scene.children()[3].color, QColor(171, 11, 31));
+        QCOMPARE(scene.children()[4].node, card);
+    }
+
+    void aLostRootIsMadeAgainWithAllItsParts_data()
+    {
+        QTest::addColumn<int>("way");
+        QTest::addColumn<bool>("playing");
+        const std::array ways { "no style", "width 0", "height 0", "another window" };
+        for (int way = 0; way < 4; ++way) {
+            for (const bool playing : { false, true })
+                QTest::addRow("%s, %s", ways[way], playing ? "playable" : "future") << way << playing;
+        }
+    }
+    void aLostRootIsMadeAgainWithAllItsParts()
+    {
+        QFETCH(int, way);
+        QFETCH(bool, playing);
+        FocusedScene scene;
+        scene.fill();
+        QVERIFY(scene.show(fieldsPicture()));
+        apply(scene, playing ? playableLive : reminded);
+        scene.row->setProgress(0.5);
+        scene.stage.renderFrame();
+        const QImage before = scene.stage.picture();
+        const QString nodes = stbtest::describeNodes(stbtest::paintNode(scene.row.get()));
+        const qreal height = scene.row->height();
+
+        stbtest::Stage other(scene.stage.size(), stageGround);
+        if (way == 0)
+            scene.row->setStyle(nullptr);
+        else if (way == 1)
+            scene.row->setWidth(0);
+        else if (way == 2)
+            scene.row->setHeight(0);
+        else
+            scene.row->setParentItem(other.contentItem());
+        scene.stage.renderFrame();
+        other.renderFrame();
+        if (way == 3)
+            QCOMPARE(other.picture(), before);
+        else
+            QVERIFY(!stbtest::paintNode(scene.row.get()));
+
+        scene.row->setParentItem(scene.stage.contentItem());
+        scene.row->setStyle(&scene.style);
+        scene.row->setWidth(580);
+        scene.row->setHeight(height);
+        scene.stage.renderFrame();
+        QCOMPARE(stbtest::describeNodes(stbtest::paintNode(scene.row.get())), nodes);
+        QCOMPARE(scene.stage.picture(), before);
+    }
+
+    // The flags of parts that are gone with the root must not be taken for nodes of the new one.
+    void aLostRootMayComeBackInAnotherState()
+    {
+        FocusedScene scene;
+        scene.fill();
+        QVERIFY(scene.show(fieldsPicture()));
+        const QList<State> states { playableLive, reminded, past, playable, neither, future };
+        for (const State &first : states) {
+            for (const State &second : states) {
+                apply(scene, first);
+                scene.stage.renderFrame();
+                scene.row->setStyle(nullptr);
+                scene.stage.renderFrame();
+                apply(scene, second);
+                scene.row->setStyle(&scene.style);
+                scene.stage.renderFrame();
+                QCOMPARE(shownParts(scene), expectedParts(second));
+            }
+        }
+    }
+
+    void aNewStyleObjectIsTakenOverWhole_data()
+    {
+        QTest::addColumn<int>("bits");
+        for (int bits = 0; bits < 32; ++bits)
+            QTest::addRow("%d", bits) << bits;
+    }
+    void aNewStyleObjectIsTakenOverWhole()
+    {
+        QFETCH(int, bits);
+        const State state { bool(bits & 1), bool(bits & 2), bool(bits & 4), bool(bits & 8), bool(bits & 16) };
+        StyleObject object;
+        object.setStyle(otherEpgStyle());
+        FocusedScene scene;
+        scene.fill();
+        apply(scene, state);
+        scene.row->setProgress(0.5);
+        scene.stage.renderFrame();
+        scene.row->setStyle(&object);
+        scene.stage.renderFrame();
+        const QImage fresh = pictureOf(state, [&](FocusedScene &other) {
+            other.row->setProgress(0.5);
+            other.row->setStyle(&object);
+        });
+        QCOMPARE(stbtest::comparePictures(scene.stage.picture(), fresh).text(), QString());
+    }
+
+    // The texts keep their sizes: only the places are others.
+    void aStyleThatOnlyMovesThePartsMovesThem_data()
+    {
+        QTest::addColumn<std::function<void(Style &)>>("change");
+        using Change = std::function<void(Style &)>;
+        QTest::newRow("icon spacing") << Change([](Style &style) { style.reminderIconSpacing = 41; });
+        QTest::newRow("card") << Change([](Style &style) { style.previewRect = QRect(101, 3, 417, 231); });
+        QTest::newRow("bar height") << Change(
+                [](Style &style) { style.reminderActionTextStyle.rect.setHeight(61); });
+    }
+    void aStyleThatOnlyMovesThePartsMovesThem()
+    {
+        QFETCH(std::function<void(Style &)>, change);
+        Style style = oddEpgStyle();
+        change(style);
+        StyleObject object;
+        object.setStyle(style);
+        FocusedScene scene;
+        scene.fill();
+        apply(scene, future);
+        scene.stage.renderFrame();
+        scene.row->setStyle(&object);
+        scene.stage.renderFrame();
+        const QImage fresh = pictureOf(future, [&](FocusedScene &other) { other.row->setStyle(&object); });
+        QCOMPARE(stbtest::comparePictures(scene.stage.picture(), fresh).text(), QString());
+    }
+
+    void theReminderSwapNeedsNoLayoutOfTheRow()
+    {
+        FocusedScene scene;
+        scene.fill();
+        apply(scene, future);
+        scene.stage.renderFrame();
+        scene.row->setHeight(300);
+        scene.row->setReminder(true);
+        scene.stage.renderFrame();
+        QCOMPARE(scene.row->height(), 300); // a relayout would write its own height back
+        QCOMPARE(shownParts(scene), expectedParts(reminded));
+        scene.row->setReminder(false);
+        scene.stage.renderFrame();
+        QCOMPARE(shownParts(scene), expectedParts(future));
+    }
+
+    void anotherLanguageIsThereWithTheNextPaint()
+    {
+        FocusedScene scene;
+        scene.fill();
+        apply(scene, future);
+        scene.stage.renderFrame();
+        const QList<NodeInfo> before = scene.parts();
+        EpgWords german;
+        german.words = { { { "QObject", "LIVE_SOON" }, "Bald live auf Sendung" },
+                         { { "QObject", "ADD_REMINDER" }, "Erinnern" },
+                         { { "stbui::EpgListModel", "ON" }, "Um" } };
+        scene.row->update();
+        scene.stage.renderFrame();
+        const QList<NodeInfo> after = scene.parts();
+        const Style style = oddEpgStyle();
+        QCOMPARE(after[0].rect.width(),
+                 textExtent(style.statusTextStyle, "Bald live auf Sendung", 417).width());
+        QCOMPARE(stbtest::childNodes(after[1].node)[0].rect.width(),
+                 textExtent(style.reminderActionTextStyle, "Erinnern", 417).width());
+        QCOMPARE(after[2].rect.width(), textExtent(style.startsAtTextStyle, "Um 20:05", 417).width());
+        for (int i = 0; i < 4; ++i)
+            QCOMPARE(after[i].node, before[i].node);
+    }
+
+    void withoutTranslationsTheKeysAreShown()
+    {
+        FocusedScene scene;
+        scene.fill();
+        EpgWords none;
+        none.words = { { { "QObject", "LIVE_SOON" }, "LIVE_SOON" },
+                       { { "QObject", "ADD_REMINDER" }, "ADD_REMINDER" },
+                       { { "stbui::EpgListModel", "ON" }, "ON" } };
+        apply(scene, future);
+        scene.stage.renderFrame();
+        QCOMPARE(scene.parts()[0].pixmap.size(),
+                 textExtent(oddEpgStyle().statusTextStyle, "LIVE_SOON", 417).size());
+    }
+
+    void aColourThatIsNotSetPaintsNothing()
+    {
+        Style style = oddEpgStyle();
+        style.cardColor = QColor();
+        style.reminderActionTextStyle.backgroundColor = QColor();
+        style.progressPlayedColor = QColor();
+        style.progressRemainderColor = QColor();
+        StyleObject object;
+        object.setStyle(style);
+        FocusedScene scene;
+        scene.fill();
+        scene.row->setStyle(&object);
+        for (const State &state : { playableLive, future }) {
+            apply(scene, state);
+            scene.row->setProgress(0.5);
+            scene.stage.renderFrame();
+            QCOMPARE(scene.stage.picture().pixelColor(rowPosition + QPoint(531, 100)), stageGround);
+            QCOMPARE(scene.stage.picture().pixelColor(rowPosition + QPoint(531, 179)), stageGround);
+            QCOMPARE(scene.stage.picture().pixelColor(rowPosition + QPoint(201, 179)), stageGround);
+        }
+    }
+};
+
+STB_TEST_MAIN(tst_StbEpgViewDelegateFocusedCard)
+#include "tst_stbepgviewdelegatefocusedcard.moc"
