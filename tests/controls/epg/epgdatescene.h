@@ -3,8 +3,10 @@
 #define STBTEST_EPGDATESCENE_H
 
 #include "epgstyles.h"
+#include "testkit/nodes.h"
+#include "testkit/stage.h"
 
-#include <controls/epg/stbepgdate.h>
+#include <controls/epg/stbepgdate_p.h>
 
 #include <QtCore/qlocale.h>
 
@@ -42,6 +44,19 @@ struct EpgDateScene
     design_system::PlayerEpgDateQmlStyle style; // odd
     design_system::PlayerEpgDateQmlStyle other;
     StbEpgDate cell;
+};
+
+/*! The same with an offscreen stage. */
+struct OffscreenEpgDateScene : EpgDateScene<stbtest::Stage>
+{
+    void fillAndPaint(const QDate &date = QDate(2026, 3, 15))
+    {
+        fill(date);
+        stage.renderFrame();
+    }
+    StbEpgDatePrivate *d() { return static_cast<StbEpgDatePrivate *>(QQuickItemPrivate::get(&cell)); }
+    QList<stbtest::NodeInfo> children() { return stbtest::childNodes(stbtest::paintNode(&cell)); }
+    static QRect onStage(const stbtest::NodeInfo &node) { return node.rect.toRect().translated(20, 30); }
 };
 
 #endif // STBTEST_EPGDATESCENE_H
