@@ -7,7 +7,6 @@
 #include <controls/tiles/stbcontenttile.h>
 #include <controls/tiles/stbcontenttile_p.h>
 
-using design_system::TileStyle;
 using stbtest::NodeInfo;
 
 namespace {
