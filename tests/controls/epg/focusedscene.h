@@ -3,6 +3,7 @@
 #define STBTEST_FOCUSEDSCENE_H
 
 #include "epgstyles.h"
+#include "epgtexts.h"
 #include "testkit/handpictures.h"
 #include "testkit/nodes.h"
 #include "testkit/qmlscene.h"
@@ -58,19 +59,6 @@ inline QImage fieldsPicture(const QSize &size = QSize(139, 71))
     painter.fillRect(QRect(0, middleY, middleX, size.height()), QColor(51, 91, 201));
     painter.fillRect(QRect(middleX, middleY, size.width(), size.height()), QColor(231, 191, 61));
     return image;
-}
-
-/*! The extent that \a text takes in \a style and \a width. */
-inline QRect textExtent(const design_system::TextStyle &style, const QString &text, int width)
-{
-    stbcore::TextRenderer renderer;
-    renderer.setTextFont(style.font);
-    renderer.setMaxLineCount(style.maxLineCount);
-    renderer.setTextAlignment(style.alignment);
-    renderer.setMaxTextWidth(width);
-    renderer.setText(text);
-    renderer.relayout();
-    return renderer.boundingRect();
 }
 
 /*! What a text of \a style looks like in \a color. */
