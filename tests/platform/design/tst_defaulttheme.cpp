@@ -32,6 +32,14 @@ double contrast(const QColor &a, const QColor &b)
     return (light + 0.05) / (dark + 0.05);
 }
 
+// What a translucent colour looks like over another one.
+QColor blended(const QColor &c, const QColor &ground)
+{
+    const auto mixed = [&](int over, int under) { return under + (over - under) * c.alpha() / 255; };
+    return QColor(mixed(c.red(), ground.red()), mixed(c.green(), ground.green()),
+                  mixed(c.blue(), ground.blue()));
+}
+
 // Colours that the theme leaves out: a tile has neither overlay nor frame, and not every text stands on a
 // fill or changes with the state.
 bool mayBeAbsent(const QString &path)
@@ -199,6 +207,21 @@ private Q_SLOTS:
             QVERIFY(contrast(text, screen) >= 4.5);
         QVERIFY(contrast(style.liveTextStyle.color, style.liveBadgeColor) >= 4.5);
         QVERIFY(luminance(style.unavailableTextColor) < luminance(style.playableTextColor));
+    }
+
+    void theGuideRowsCardShowsWithoutAPictureAndItsTextsOnTheBrightestOne_data() { eachResolution(); }
+    void theGuideRowsCardShowsWithoutAPictureAndItsTextsOnTheBrightestOne()
+    {
+        const auto theme = system();
+        const PlayerEpgDelegateStyle style = theme->playerEpgDelegateStyle()->style();
+        const QColor screen = theme->colors()->token(QStringLiteral("oslo"));
+        QVERIFY(contrast(blended(style.cardColor, screen), screen) >= 1.1);
+        const QColor brightest = blended(style.cardColor, Qt::white);
+        for (const QColor &text :
+             { style.statusTextStyle.color, style.startsAtTextStyle.color, style.playIconColor })
+            QVERIFY(contrast(text, brightest) >= 4.5);
+        QVERIFY(contrast(style.reminderActionTextStyle.color, style.reminderActionTextStyle.backgroundColor)
+                >= 4.5);
     }
 
     void theGuideRowsStartTimeEndsBeforeItsTexts_data() { eachResolution(); }
