@@ -171,7 +171,6 @@ QSGNode *StbHorizontalEpgViewDelegate::updatePaintNode(QSGNode *oldNode, UpdateP
     auto *root = static_cast<QSGRectangleNode *>(oldNode ? oldNode : d->createRoot(style));
     d->updateChildren(root, style, !oldNode);
     setNodeRect(root, QRectF(0, 0, width(), height()));
-    // An invalid colour would paint black.
-    setNodeColor(root, style.backgroundColor.isValid() ? style.backgroundColor : QColor(Qt::transparent));
+    setNodeColor(root, visibleColor(style.backgroundColor));
     return root;
 }
