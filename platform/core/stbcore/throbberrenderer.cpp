@@ -14,6 +14,9 @@ namespace {
 constexpr int frameInterval = 40; // milliseconds: what a slow painter keeps up with
 constexpr int framesPerTurn = 30;
 constexpr int arcDegrees = 290;
+// Under the white arc, so that it is seen on a white ground too: black at 51 per cent on white is a grey against
+// which white has a contrast of 4 to 1.
+constexpr QColor track(0, 0, 0, 130);
 
 // A brush that is opaque at the arc's head and clear at its tail. The round caps reach beyond the arc, so
 // the jump from clear to opaque lies in the middle of the gap, where nothing is painted.
@@ -58,6 +61,8 @@ void ThrobberRenderer::draw(QPainter &painter)
     painter.setClipRect(square, Qt::IntersectClip); // antialiasing bleeds into the pixel beside a thin arc
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(track, thickness));
+    painter.drawEllipse(circle);
     painter.setPen(QPen(fadingTail(circle.center(), headAngle), thickness, Qt::SolidLine, Qt::RoundCap));
     painter.drawArc(circle, qRound(headAngle * 16), arcDegrees * 16);
     painter.restore();

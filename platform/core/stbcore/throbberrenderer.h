@@ -13,8 +13,9 @@ class QPainter;
 namespace stbcore {
 
 /*!
-    A busy indicator as a series of frames: a white arc with round ends that turns clockwise, its tail fading
-    away. Lives in a thread with an event loop.
+    A busy indicator as a series of frames: a white arc with round ends that turns clockwise on a translucent dark
+    circle, its tail fading away. It is seen on light grounds as well as on dark ones. Lives in a thread with an
+    event loop.
 */
 class STBCORE_EXPORT ThrobberRenderer : public QObject
 {
@@ -23,7 +24,7 @@ public:
     explicit ThrobberRenderer(QObject *parent);
 
     /*!
-        Where draw() paints, in the painter's pixels. The arc is a circle in the middle of it, as large as the
+        Where draw() paints, in the painter's pixels. The circle lies in the middle of it, as large as the
         shorter side allows; nothing is painted outside. An empty rectangle, the default, paints nothing.
     */
     void setRenderRect(QRect rect);
