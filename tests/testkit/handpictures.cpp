@@ -24,8 +24,11 @@ struct HandPictures::State
     QMutex mutex;
     QHash<QString, int> requests;
     QHash<QString, QSize> sizes;
-    QMultiHash<QString, Response *>
-            waiting; // each lives in the loader's thread and takes itself out when it dies
+    QMultiHash<QString, Response *> waiting; // each lives in the loader's thread
+    int responses = 0; // that exist
+
+    /*! Ends the loads of \a name that wait; the mutex is held. */
+    void finish(const QString &name, const QImage &picture);
 };
 
 class HandPictures::Response : public QQuickImageResponse
@@ -35,10 +38,13 @@ public:
         : m_state(std::move(state))
         , m_name(name)
     {
+        const QMutexLocker locker(&m_state->mutex);
+        ++m_state->responses;
     }
     ~Response() override
     {
         const QMutexLocker locker(&m_state->mutex);
+        --m_state->responses;
         m_state->waiting.remove(m_name, this);
     }
 
@@ -83,13 +89,36 @@ private:
     const std::shared_ptr<State> m_state;
 };
 
+void HandPictures::State::finish(const QString &name, const QImage &picture)
+{
+    const QList<Response *> ended = waiting.values(name);
+    waiting.remove(name);
+    for (Response *response : ended)
+        QMetaObject::invokeMethod(
+                response, [response, picture] { response->arrive(picture); }, Qt::QueuedConnection);
+}
+
 HandPictures::HandPictures(QQmlEngine *engine)
     : m_state(std::make_shared<State>())
 {
     engine->addImageProvider(providerName(), new Provider(m_state));
 }
 
-HandPictures::~HandPictures() = default;
+// A load that never comes to its end would leave its response to nobody when the engine's loader goes.
+HandPictures::~HandPictures()
+{
+    {
+        const QMutexLocker locker(&m_state->mutex);
+        for (const QString &name : m_state->waiting.uniqueKeys())
+            m_state->finish(name, QImage());
+    }
+    const bool done = QTest::qWaitFor([this] {
+        const QMutexLocker locker(&m_state->mutex);
+        return m_state->responses == 0;
+    });
+    if (!done)
+        qWarning("Pictures are still being loaded");
+}
 
 QUrl HandPictures::url(const QString &name)
 {
@@ -121,11 +150,7 @@ bool HandPictures::deliver(const QString &name, const QImage &picture)
         return false;
     }
     const QMutexLocker locker(&m_state->mutex);
-    const QList<Response *> responses = m_state->waiting.values(name);
-    m_state->waiting.remove(name);
-    for (Response *response : responses)
-        QMetaObject::invokeMethod(
-                response, [response, picture] { response->arrive(picture); }, Qt::QueuedConnection);
+    m_state->finish(name, picture);
     return true;
 }
 

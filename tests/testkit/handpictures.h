@@ -15,8 +15,8 @@ QT_END_NAMESPACE
 namespace stbtest {
 
 /*!
-    Pictures that an engine loads asynchronously and that arrive when the test says so. The engine keeps what it
-    needs; this handle may go first.
+    Pictures that an engine loads asynchronously and that arrive when the test says so. It goes before its engine,
+    and the loads that still wait then fail.
 */
 class HandPictures
 {
