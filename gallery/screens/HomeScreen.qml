@@ -38,7 +38,7 @@ FocusScope {
         anchors.top: header.bottom
         anchors.topMargin: Look.small
         anchors.left: header.left
-        width: Math.round(0.62 * parent.width)
+        width: Math.round((Look.wide ? 0.54 : 0.7) * parent.width)
         spacing: Look.tiny
 
         Label {
@@ -54,7 +54,9 @@ FocusScope {
         }
         Label {
             width: parent.width
-            height: Math.ceil((Look.wide ? 2 : 1) * metrics.lineSpacing)
+            objectName: "heroDescription"
+            // A line of text may be a little higher than its font says.
+            height: Math.ceil((Look.wide ? 2.1 : 1.1) * metrics.lineSpacing)
             text: screen.home.description
             font: Look.caption
             wrapMode: Text.Wrap

@@ -41,8 +41,9 @@ QtObject {
     // The linter of Qt 6.4 does not know the colours and rectangles of a module that is written in C++.
     // qmllint disable type
     readonly property color backdrop: QmlDesignSystem.colors.oslo
-    // Over a picture that texts may touch.
+    // Over a picture that texts may touch, and under a text on a picture.
     readonly property color veil: Qt.rgba(backdrop.r, backdrop.g, backdrop.b, 0.25)
+    readonly property color badge: Qt.rgba(backdrop.r, backdrop.g, backdrop.b, 0.75)
     readonly property color surface: QmlDesignSystem.colors.bamako
     readonly property color raised: QmlDesignSystem.colors.bogota
     readonly property color text: QmlDesignSystem.colors.sochi

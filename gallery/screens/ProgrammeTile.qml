@@ -32,20 +32,21 @@ ContentTile {
     Accessible.name: channel + " " + title
     Component.onCompleted: completed = true
 
-    // A channel has no picture of its programme: its name takes the place.
-    Label {
-        x: tile.customFocusRect.x + Look.medium
-        y: tile.customFocusRect.y
-        width: tile.customFocusRect.width - 2 * Look.medium
-        height: tile.customFocusRect.height - Look.medium
-        visible: tile.still.toString().length === 0
-        text: tile.channel
-        font: Look.heading
-        color: Look.quietText
-        horizontalAlignment: Text.AlignHCenter
-        verticalAlignment: Text.AlignVCenter
-        wrapMode: Text.Wrap
-        maximumLineCount: 2
+    Rectangle {
+        x: tile.customFocusRect.x + Look.small
+        y: tile.customFocusRect.y + Look.small
+        width: Math.min(badge.implicitWidth + 2 * Look.small, tile.customFocusRect.width - 2 * Look.small)
+        height: badge.height + Look.tiny
+        color: Look.badge
+
+        Label {
+            id: badge
+
+            anchors.centerIn: parent
+            width: parent.width - 2 * Look.small
+            text: tile.channel
+            font: Look.hint
+        }
     }
     ProgressLine {
         x: tile.customFocusRect.x + Look.medium

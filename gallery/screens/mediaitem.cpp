@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "screens/mediaitem.h"
 
+#include "gallery/data/programmestills.h"
+
 #include <QtCore/qcoreapplication.h>
 #include <QtCore/qlocale.h>
 
@@ -50,6 +52,7 @@ MediaItem programmeItem(const Guide &guide, int channel, int index, const QDateT
     item.genre = programme.category;
     item.channel = guide.channel(channel).name;
     item.logo = guide.channel(channel).icon;
+    item.still = programmeStill(programme.category, programme.title);
     item.start = QDateTime::fromSecsSinceEpoch(programme.time.start);
     item.position = double(now.toSecsSinceEpoch() - programme.time.start);
     item.duration = double(programme.time.stop - programme.time.start);

@@ -42,6 +42,19 @@ private Q_SLOTS:
                  qPrintable(QString::number(guide()->rowsPerPage())));
     }
 
+    void theProgrammeThatIsOnIsInTheMiddleHoweverTheGuideIsOpened()
+    {
+        start();
+        const QRectF atOnce = sceneRect(item("focusPlate"));
+        shell()->start("home");
+        for (const Qt::Key key : { Qt::Key_Up, Qt::Key_Right, Qt::Key_Return })
+            press(key);
+        QCOMPARE(shell()->screen(), "guide");
+        QVERIFY(QTest::qWaitFor([this, &atOnce] { return sceneRect(item("focusPlate")) == atOnce; }));
+        const QRectF list = sceneRect(item("programmes"));
+        QVERIFY(std::abs(atOnce.center().y() - list.center().y()) < 2);
+    }
+
     void keysReachTheControllerOnce()
     {
         start();

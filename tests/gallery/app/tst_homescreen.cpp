@@ -129,6 +129,29 @@ private Q_SLOTS:
         }
     }
 
+    void theDescriptionUsesTheLinesThatItHas_data()
+    {
+        QTest::addColumn<QString>("resolution");
+        QTest::addColumn<int>("lines");
+        QTest::newRow("hd") << "hd" << 2;
+        QTest::newRow("fullhd") << "fullhd" << 2;
+        QTest::newRow("sd") << "sd" << 1;
+    }
+    void theDescriptionUsesTheLinesThatItHas()
+    {
+        QFETCH(QString, resolution);
+        QFETCH(int, lines);
+        gallery::Options options;
+        options.resolution = resolution;
+        start(options);
+        gallery::CatalogueEntry wordy = catalogues::film("Wordy");
+        wordy.description = QString("a few more words ").repeated(40);
+        home()->setCatalogue(gallery::Catalogue({ wordy }));
+        press(Qt::Key_Down);
+        QCOMPARE(item("heroDescription")->property("lineCount").toInt(), lines);
+        QVERIFY(item("heroDescription")->property("truncated").toBool());
+    }
+
     void aRowRemembersItsTile()
     {
         start();

@@ -4,12 +4,42 @@
 #include "app/languages.h"
 
 #include <QtCore/qcoreapplication.h>
+#include <QtCore/qfile.h>
+#include <QtCore/qmap.h>
 #include <QtCore/qset.h>
+#include <QtCore/qxmlstream.h>
 #include <QtGui/qguiapplication.h>
 
 class tst_Languages : public stbtest::TestCase
 {
     Q_OBJECT
+
+    /*! The finished texts of a language's file, by context, source and comment. */
+    static QMap<QString, QString> catalogue(const QString &code)
+    {
+        QFile file(QStringLiteral(STBUI_GALLERY_TRANSLATIONS "/stbui_%1.ts").arg(code));
+        if (!file.open(QIODevice::ReadOnly))
+            return {};
+        QMap<QString, QString> texts;
+        QString context;
+        QString key;
+        for (QXmlStreamReader xml(&file); !xml.atEnd(); xml.readNext()) {
+            if (!xml.isStartElement())
+                continue;
+            if (xml.name() == u"name") {
+                context = xml.readElementText();
+            } else if (xml.name() == u"source") {
+                key = context + u'/' + xml.readElementText();
+            } else if (xml.name() == u"comment") {
+                key += u'/' + xml.readElementText();
+            } else if (xml.name() == u"translation") {
+                const bool finished = !xml.attributes().hasAttribute(QStringLiteral("type"));
+                texts.insert(key, finished ? xml.readElementText() : QString());
+            }
+        }
+        return texts;
+    }
+
 private Q_SLOTS:
     void cleanup() { QVERIFY(gallery::installLanguage(QStringLiteral("en"))); }
 
@@ -69,6 +99,30 @@ private Q_SLOTS:
         for (const auto &[context, key] : keys) {
             const QString text = QCoreApplication::translate(context, key);
             QVERIFY2(!text.isEmpty() && text != QLatin1String(key), key);
+        }
+    }
+
+    void everyTextIsTranslatedIntoEveryLanguage_data() { everyLanguageHasAllOfTheControlsTexts_data(); }
+    void everyTextIsTranslatedIntoEveryLanguage()
+    {
+        QFETCH(QString, code);
+        const QMap<QString, QString> texts = catalogue(code);
+        const QMap<QString, QString> english = catalogue(QStringLiteral("en"));
+        QVERIFY(texts.size() > 30);
+        QCOMPARE(texts.keys(), english.keys());
+        for (auto text = texts.cbegin(); text != texts.cend(); ++text)
+            QVERIFY2(!text.value().isEmpty(), qPrintable(text.key()));
+    }
+
+    void everyPlaceInATextIsKept_data() { everyLanguageHasAllOfTheControlsTexts_data(); }
+    void everyPlaceInATextIsKept()
+    {
+        QFETCH(QString, code);
+        const QMap<QString, QString> texts = catalogue(code);
+        for (auto text = texts.cbegin(); text != texts.cend(); ++text) {
+            for (const char *place : { "%1", "%2" })
+                QVERIFY2(text.key().count(QLatin1String(place)) == text.value().count(QLatin1String(place)),
+                         qPrintable(text.key()));
         }
     }
 
