@@ -100,6 +100,7 @@ Item {
             shownPicture: tileRow.upright ? picture : still
         }
     }
+    // As high as the lines below a tile.
     Column {
         id: caption
 
@@ -111,7 +112,13 @@ Item {
             model: tileRow.row.captionLines
 
             Label {
+                required property int index
+
                 text: "X"
+                // qmllint disable type
+                font: index === 0 ? tileRow.tileStyle.style.titleStyle.font
+                                  : tileRow.tileStyle.style.subtitleStyle.font
+                // qmllint enable type
             }
         }
     }
