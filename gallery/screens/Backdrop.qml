@@ -12,7 +12,7 @@ Item {
     // Its size is fixed when it is made.
     required property url source
 
-    visible: source.toString().length > 0
+    visible: String(source).length > 0
 
     Component.onCompleted: picture.style = measures
 
@@ -20,7 +20,9 @@ Item {
     TileQmlStyle {
         id: measures
 
+        // qmllint disable type
         style.tileRect: Qt.rect(0, 0, backdrop.width, backdrop.height)
+        // qmllint enable type
     }
     ExpandableTile {
         id: picture

@@ -8,28 +8,13 @@ Item {
 
     required property ListView list
 
-    Fade {
+    EdgeFade {
         anchors.top: parent.top
         visible: !fades.list.atYBeginning
     }
-    Fade {
+    EdgeFade {
         anchors.bottom: parent.bottom
         rotation: 180
         visible: !fades.list.atYEnd
-    }
-
-    component Fade: Rectangle {
-        width: parent.width
-        height: Look.huge
-        gradient: Gradient {
-            GradientStop {
-                position: 0
-                color: Look.backdrop
-            }
-            GradientStop {
-                position: 1
-                color: "transparent"
-            }
-        }
     }
 }

@@ -19,12 +19,12 @@ Item {
         Entry {
             id: entry
 
-            kind: HomeController.HomeEntry
+            focused: header.home.inHeader && header.home.entry === HomeController.HomeEntry
             text: qsTr("Home")
             color: Look.text
         }
         Entry {
-            kind: HomeController.GuideEntry
+            focused: header.home.inHeader && header.home.entry === HomeController.GuideEntry
             text: qsTr("TV guide")
         }
     }
@@ -49,10 +49,9 @@ Item {
     component Entry: Item {
         id: item
 
-        required property int kind
         required property string text
         property color color: Look.quietText
-        readonly property bool focused: header.home.inHeader && header.home.entry === kind
+        required property bool focused
 
         width: label.width + 2 * Look.medium
         height: label.height + Look.small

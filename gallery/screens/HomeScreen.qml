@@ -89,9 +89,12 @@ FocusScope {
         currentIndex: screen.home.rowIndex
         // The row that keys act on is at the top.
         contentY: currentItem ? currentItem.y : 0
+        // With Qt 6.4 a component cannot say that it belongs where it stands; the linter asks for that.
         delegate: TileRow {
             width: ListView.view.width
+            // qmllint disable unqualified
             active: ListView.isCurrentItem && !screen.home.inHeader
+            // qmllint enable unqualified
         }
 
         Behavior on contentY {
@@ -102,7 +105,7 @@ FocusScope {
             }
         }
     }
-    EdgeFades.Fade {
+    EdgeFade {
         anchors.bottom: parent.bottom
         rotation: 180
     }

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+import Gallery
+
+// One screen of the shell: there while it is open, seen and with the keys while it is on top.
+Loader {
+    required property ShellController controller
+    required property string name
+
+    anchors.fill: parent
+    // qmllint disable property
+    active: controller.openScreens.includes(name)
+    // qmllint enable property
+    visible: controller.screen === name
+    focus: visible
+}
