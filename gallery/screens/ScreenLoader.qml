@@ -8,9 +8,9 @@ Loader {
     required property string name
 
     anchors.fill: parent
-    // qmllint disable property
+    // qmllint disable
     active: controller.openScreens.includes(name)
-    // qmllint enable property
+    // qmllint enable
     visible: controller.screen === name
     focus: visible
 }
