@@ -47,6 +47,9 @@ qt_add_qml_module(${module}
         controls/epg/stbhorizontalepgviewdelegate.cpp controls/epg/stbhorizontalepgviewdelegate.h
         controls/epg/stbhorizontalepgviewdelegate_p.h
         controls/epg/stbhorizontalepgviewdelegatelayout.cpp controls/epg/stbhorizontalepgviewdelegatelayout.h
+        controls/epg/stbtvchannelviewdelegate.cpp controls/epg/stbtvchannelviewdelegate.h
+        controls/epg/stbtvchannelviewdelegate_p.h
+        controls/epg/stbtvchannelviewdelegatelayout.cpp controls/epg/stbtvchannelviewdelegatelayout.h
         controls/propertysetters.h
         controls/stylereference.h
         controls/tiles/stbcontenttile.cpp controls/tiles/stbcontenttile.h controls/tiles/stbcontenttile_p.h

@@ -63,6 +63,7 @@ private Q_SLOTS:
         QTest::newRow("EpgViewDelegateFocused") << "StbEpgViewDelegateFocused";
         QTest::newRow("ExpandableTile") << "StbExpandableTile";
         QTest::newRow("HorizontalEpgViewDelegate") << "StbHorizontalEpgViewDelegate";
+        QTest::newRow("TvChannelViewDelegate") << "StbTvChannelViewDelegate";
         QTest::newRow("VodTile") << "StbVodTile";
     }
     void everyElementHasItsName()
@@ -146,16 +147,29 @@ private Q_SLOTS:
         stbtest::QmlScene scene;
         QVERIFY(scene.createItem("import Stbui.UI.Qml.Controls.Basic\nEpgViewDelegate {}"));
         QVERIFY(scene.createItem("import Stbui.UI.Qml.Controls.Basic\nExpandableTile {}"));
-        for (const char *name :
-             { "StbButton*", "QQmlListProperty<StbButton>", "StbButtonWithCheckIndicator*",
-               "QQmlListProperty<StbButtonWithCheckIndicator>", "design_system::ButtonQmlStyle*",
-               "StbEpgViewDelegate*", "QQmlListProperty<StbEpgViewDelegate>", "QQuickItem*",
-               "QQmlListProperty<QQuickItem>", "qml::QmlSettings*",
-               "design_system::PlayerEpgDelegateQmlStyle*", "StbExpandableTile*",
-               "QQmlListProperty<StbExpandableTile>", "design_system::TileQmlStyle*", "StbEpgDate*",
-               "QQmlListProperty<StbEpgDate>", "design_system::PlayerEpgDateQmlStyle*",
-               "StbHorizontalEpgViewDelegate*", "QQmlListProperty<StbHorizontalEpgViewDelegate>",
-               "design_system::PlayerHorizontalEpgViewQmlStyle*" })
+        for (const char *name : { "StbButton*",
+                                  "QQmlListProperty<StbButton>",
+                                  "StbButtonWithCheckIndicator*",
+                                  "QQmlListProperty<StbButtonWithCheckIndicator>",
+                                  "design_system::ButtonQmlStyle*",
+                                  "StbEpgViewDelegate*",
+                                  "QQmlListProperty<StbEpgViewDelegate>",
+                                  "QQuickItem*",
+                                  "QQmlListProperty<QQuickItem>",
+                                  "qml::QmlSettings*",
+                                  "design_system::PlayerEpgDelegateQmlStyle*",
+                                  "StbExpandableTile*",
+                                  "QQmlListProperty<StbExpandableTile>",
+                                  "design_system::TileQmlStyle*",
+                                  "StbEpgDate*",
+                                  "QQmlListProperty<StbEpgDate>",
+                                  "design_system::PlayerEpgDateQmlStyle*",
+                                  "StbHorizontalEpgViewDelegate*",
+                                  "QQmlListProperty<StbHorizontalEpgViewDelegate>",
+                                  "design_system::PlayerHorizontalEpgViewQmlStyle*",
+                                  "StbTvChannelViewDelegate*",
+                                  "QQmlListProperty<StbTvChannelViewDelegate>",
+                                  "design_system::PlayerTvChannelItemQmlStyle*" })
             QVERIFY2(QMetaType::fromName(name).isValid(), name);
     }
 

@@ -5,6 +5,7 @@
 #include <design_system/playerepgdatestyle.h>
 #include <design_system/playerepgdelegatestyle.h>
 #include <design_system/playerhorizontalepgviewstyle.h>
+#include <design_system/playertvchannelitemstyle.h>
 
 #include <QtCore/qcoreapplication.h>
 #include <QtCore/qtranslator.h>
@@ -190,6 +191,93 @@ inline design_system::PlayerEpgDateStyle otherEpgDateStyle()
     style.dayStyle.font = pixelFont(15);
     style.dayActiveColor = QColor(201, 251, 131);
     style.dayInactiveColor = QColor(243, 143, 203);
+    return style;
+}
+
+/*! The same for a row of the list of channels: its texts begin at 153. */
+inline design_system::PlayerTvChannelItemStyle oddTvChannelStyle()
+{
+    design_system::PlayerTvChannelItemStyle style;
+    style.leftMargin = 13;
+    style.topMargin = 9;
+    style.rightMargin = 21;
+    style.bottomMargin = 7;
+    style.logoTextSpacing = 19;
+    style.logoRect = QRect(11, 15, 121, 67);
+    style.channelNumberTextStyle.rect = QRect(3, 5, 71, 501);
+    style.channelNumberTextStyle.backgroundColor = QColor(31, 41, 51);
+    style.channelNumberTextStyle.font = pixelFont(15);
+    style.channelNumberTextStyle.maxLineCount = 1;
+    style.channelNumberTextStyle.color = QColor(251, 241, 131);
+    style.channelNumberTextStyle.leftPadding = 5;
+    style.channelNumberTextStyle.topPadding = 1;
+    style.channelNumberTextStyle.rightPadding = 7;
+    style.channelNumberTextStyle.bottomPadding = 3;
+    style.textTopOffset = 17;
+    style.programNameSpacing = 23;
+    style.nameQualitySpacing = 11;
+    style.qualityTextStyle.backgroundColor = QColor(91, 31, 121);
+    style.qualityTextStyle.font = pixelFont(17);
+    style.qualityTextStyle.maxLineCount = 1;
+    style.qualityTextStyle.color = QColor(231, 211, 251);
+    style.qualityTextStyle.leftPadding = 9;
+    style.qualityTextStyle.topPadding = 3;
+    style.qualityTextStyle.rightPadding = 15;
+    style.qualityTextStyle.bottomPadding = 1;
+    style.channelNameTextStyle.font = pixelFont(25);
+    style.channelNameTextStyle.maxLineCount = 1;
+    style.channelNameTextStyle.color = QColor(251, 249, 231);
+    style.programNameTextStyle.font = pixelFont(17);
+    style.programNameTextStyle.maxLineCount = 1;
+    style.programNameTextStyle.color = QColor(151, 163, 173);
+    style.playingTextStyle.font = pixelFont(15);
+    style.playingTextStyle.maxLineCount = 1;
+    style.playingTextStyle.color = QColor(91, 191, 241);
+    style.playingIconSpacing = 27;
+    style.progressBarRect = QRect(151, 501, 503, 5);
+    style.progressRemainderColor = QColor(71, 83, 97);
+    style.progressPlayedColor = QColor(61, 201, 111);
+    return style;
+}
+
+/*! Another value for every field that a row of the list of channels reads. */
+inline design_system::PlayerTvChannelItemStyle otherTvChannelStyle()
+{
+    design_system::PlayerTvChannelItemStyle style;
+    style.leftMargin = 3;
+    style.topMargin = 19;
+    style.rightMargin = 11;
+    style.bottomMargin = 1;
+    style.logoTextSpacing = 7;
+    style.logoRect = QRect(5, 9, 99, 81);
+    style.channelNumberTextStyle.rect = QRect(13, 1, 51, 5);
+    style.channelNumberTextStyle.backgroundColor = QColor(131, 21, 11, 199);
+    style.channelNumberTextStyle.font = pixelFont(17);
+    style.channelNumberTextStyle.color = QColor(241, 151, 231);
+    style.channelNumberTextStyle.leftPadding = 1;
+    style.channelNumberTextStyle.topPadding = 7;
+    style.channelNumberTextStyle.rightPadding = 3;
+    style.channelNumberTextStyle.bottomPadding = 5;
+    style.textTopOffset = 5;
+    style.programNameSpacing = 9;
+    style.nameQualitySpacing = 21;
+    style.qualityTextStyle.backgroundColor = QColor(21, 91, 31);
+    style.qualityTextStyle.font = pixelFont(25);
+    style.qualityTextStyle.color = QColor(211, 251, 131);
+    style.qualityTextStyle.leftPadding = 3;
+    style.qualityTextStyle.topPadding = 1;
+    style.qualityTextStyle.rightPadding = 5;
+    style.qualityTextStyle.bottomPadding = 7;
+    style.channelNameTextStyle.font = pixelFont(17);
+    style.channelNameTextStyle.color = QColor(201, 251, 131);
+    style.programNameTextStyle.font = pixelFont(15);
+    style.programNameTextStyle.color = QColor(243, 143, 203);
+    style.playingTextStyle.font = pixelFont(29);
+    style.playingTextStyle.color = QColor(241, 91, 41);
+    style.playingIconSpacing = 5;
+    style.progressBarRect = QRect(121, 1, 3, 11);
+    style.progressRemainderColor = QColor(171, 83, 197);
+    style.progressPlayedColor = QColor(241, 201, 11);
     return style;
 }
 
