@@ -8,7 +8,7 @@
 #include "testkit/qmlscene.h"
 #include "testkit/stage.h"
 
-#include <controls/epg/stbhorizontalepgviewdelegate.h>
+#include <controls/epg/stbhorizontalepgviewdelegate_p.h>
 
 #include <QtGui/qpainter.h>
 #include <QtTest/qtest.h>
@@ -25,6 +25,12 @@ inline QImage programmePicture()
     return image;
 }
 
+/*! The size of the picture that \a cell has loaded; empty while there is none. */
+inline QSize pictureSize(StbHorizontalEpgViewDelegate *cell)
+{
+    return static_cast<StbHorizontalEpgViewDelegatePrivate *>(QQuickItemPrivate::get(cell))->m_picture.size();
+}
+
 /*!
     A \a Stage with one cell, made by a QML engine, at 20, 30 on a coloured ground; its pictures arrive when the
     test says so. The cell has a size and nothing else.
@@ -38,6 +44,11 @@ struct HorizontalEpgScene
     {
         style.setStyle(oddHorizontalEpgStyle());
         other.setStyle(otherHorizontalEpgStyle());
+        makeCell();
+    }
+
+    void makeCell()
+    {
         cell = qml.createItem<StbHorizontalEpgViewDelegate>(
                 QStringLiteral("import Stbui.UI.Qml.Controls.Basic\nHorizontalEpgViewDelegate {}"),
                 stage.contentItem());
