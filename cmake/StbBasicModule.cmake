@@ -44,6 +44,9 @@ qt_add_qml_module(${module}
         controls/epg/stbepgviewdelegatefocused_p.h
         controls/epg/stbepgviewdelegatefocusedlayout.cpp controls/epg/stbepgviewdelegatefocusedlayout.h
         controls/epg/stbepgviewdelegatelayout.cpp controls/epg/stbepgviewdelegatelayout.h
+        controls/epg/stbepisodesviewdelegate.cpp controls/epg/stbepisodesviewdelegate.h
+        controls/epg/stbepisodesviewdelegate_p.h
+        controls/epg/stbepisodesviewdelegatelayout.cpp controls/epg/stbepisodesviewdelegatelayout.h
         controls/epg/stbhorizontalepgviewdelegate.cpp controls/epg/stbhorizontalepgviewdelegate.h
         controls/epg/stbhorizontalepgviewdelegate_p.h
         controls/epg/stbhorizontalepgviewdelegatelayout.cpp controls/epg/stbhorizontalepgviewdelegatelayout.h

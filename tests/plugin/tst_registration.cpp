@@ -61,6 +61,7 @@ private Q_SLOTS:
         QTest::newRow("EpgDate") << "StbEpgDate";
         QTest::newRow("EpgViewDelegate") << "StbEpgViewDelegate";
         QTest::newRow("EpgViewDelegateFocused") << "StbEpgViewDelegateFocused";
+        QTest::newRow("EpisodesViewDelegate") << "StbEpisodesViewDelegate";
         QTest::newRow("ExpandableTile") << "StbExpandableTile";
         QTest::newRow("HorizontalEpgViewDelegate") << "StbHorizontalEpgViewDelegate";
         QTest::newRow("TvChannelViewDelegate") << "StbTvChannelViewDelegate";
@@ -164,6 +165,9 @@ private Q_SLOTS:
                                   "StbEpgDate*",
                                   "QQmlListProperty<StbEpgDate>",
                                   "design_system::PlayerEpgDateQmlStyle*",
+                                  "StbEpisodesViewDelegate*",
+                                  "QQmlListProperty<StbEpisodesViewDelegate>",
+                                  "design_system::PlayerEpisodesItemQmlStyle*",
                                   "StbHorizontalEpgViewDelegate*",
                                   "QQmlListProperty<StbHorizontalEpgViewDelegate>",
                                   "design_system::PlayerHorizontalEpgViewQmlStyle*",

@@ -4,6 +4,7 @@
 
 #include <design_system/playerepgdatestyle.h>
 #include <design_system/playerepgdelegatestyle.h>
+#include <design_system/playerepisodesitemstyle.h>
 #include <design_system/playerhorizontalepgviewstyle.h>
 #include <design_system/playertvchannelitemstyle.h>
 
@@ -278,6 +279,49 @@ inline design_system::PlayerTvChannelItemStyle otherTvChannelStyle()
     style.progressBarRect = QRect(121, 1, 3, 11);
     style.progressRemainderColor = QColor(171, 83, 197);
     style.progressPlayedColor = QColor(241, 201, 11);
+    return style;
+}
+
+/*! The same for an episode: its texts begin at 220 and have 307 pixels, its badge ends at 194, 110. */
+inline design_system::PlayerEpisodesItemStyle oddEpisodesStyle()
+{
+    design_system::PlayerEpisodesItemStyle style;
+    style.tileRect = QRect(11, 7, 201, 113);
+    style.overlayColor = QColor(31, 11, 71, 151);
+    style.contentLeftMargin = 13;
+    style.contentRightMargin = 17;
+    style.contentBottomMargin = 9;
+    style.playableOverlayColor = QColor(11, 131, 41, 51);
+    style.statusSpacing = 21;
+    style.statusTextStyle.rect = QRect(521, 523, 527, 529);
+    style.statusTextStyle.backgroundColor = QColor(171, 11, 31);
+    style.statusTextStyle.font = pixelFont(15);
+    style.statusTextStyle.maxLineCount = 1;
+    style.statusTextStyle.color = QColor(251, 241, 231);
+    style.statusTextStyle.leftPadding = 7;
+    style.statusTextStyle.topPadding = 3;
+    style.statusTextStyle.rightPadding = 11;
+    style.statusTextStyle.bottomPadding = 5;
+    style.dateUpperTextStyle.font = pixelFont(29);
+    style.dateUpperTextStyle.maxLineCount = 1;
+    style.dateUpperTextStyle.color = QColor(241, 191, 31);
+    style.dateLowerTextStyle.font = pixelFont(17);
+    style.dateLowerTextStyle.maxLineCount = 1;
+    style.dateLowerTextStyle.color = QColor(91, 191, 241);
+    style.textAreaRect = QRect(501, 503, 307, 509);
+    style.textLeftSpacing = 19;
+    style.titleSubtitleSpacing = 23;
+    style.titleTextStyle.font = pixelFont(25);
+    style.titleTextStyle.maxLineCount = 2;
+    style.titleTextStyle.color = QColor(211, 213, 217);
+    style.subtitleTextStyle.font = pixelFont(15);
+    style.subtitleTextStyle.maxLineCount = 3;
+    style.subtitleTextStyle.color = QColor(151, 163, 173);
+    style.comingSoonTextColor = QColor(141, 121, 61);
+    style.playIconSize = QSize(37, 43);
+    style.progressBarRect = QRect(511, 513, 517, 15);
+    style.progressRemainingColor = QColor(221, 221, 61);
+    style.progressViewedColor = QColor(61, 91, 221);
     return style;
 }
 
