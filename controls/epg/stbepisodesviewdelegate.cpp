@@ -13,7 +13,7 @@
 #include <limits>
 
 using namespace qml_basic_plugin;
-namespace Layout = StbEpisodesViewDelegateLayout;
+using Layout = StbEpisodesViewDelegateLayout;
 
 namespace {
 

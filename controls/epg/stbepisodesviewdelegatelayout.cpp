@@ -5,7 +5,8 @@
 
 #include <algorithm>
 
-namespace StbEpisodesViewDelegateLayout {
+using Style = design_system::PlayerEpisodesItemStyle;
+using Layout = StbEpisodesViewDelegateLayout;
 
 namespace {
 
@@ -31,35 +32,35 @@ QRect cornerBox(const Style &style, const QSize &text, int above)
 
 } // namespace
 
-QRect title(const Style &style, const QSize &text)
+QRect Layout::title(const Style &style, const QSize &text)
 {
     return { QPoint(style.tileRect.width() + style.textLeftSpacing, 0), text };
 }
 
-QRect subtitle(const Style &style, const QSize &title, const QSize &text)
+QRect Layout::subtitle(const Style &style, const QSize &title, const QSize &text)
 {
     return { QPoint(style.tileRect.width() + style.textLeftSpacing,
                     title.height() + style.titleSubtitleSpacing),
              text };
 }
 
-QRect playIcon(const Style &style)
+QRect Layout::playIcon(const Style &style)
 {
     const QSize rest = style.tileRect.size() - style.playIconSize;
     return { QPoint(rest.width() / 2, rest.height() / 2), style.playIconSize };
 }
 
-QRect badge(const Style &style, const QSize &text)
+QRect Layout::badge(const Style &style, const QSize &text)
 {
     return cornerBox(style, text, 0);
 }
 
-QRect boxAboveBar(const Style &style, const QSize &text)
+QRect Layout::boxAboveBar(const Style &style, const QSize &text)
 {
     return cornerBox(style, text, style.statusSpacing + style.progressBarRect.height());
 }
 
-QRect insideBadge(const Style &style, const QRect &badge)
+QRect Layout::insideBadge(const Style &style, const QRect &badge)
 {
     if (badge.isNull())
         return {};
@@ -67,24 +68,24 @@ QRect insideBadge(const Style &style, const QRect &badge)
     return badge.adjusted(status.leftPadding, status.topPadding, -status.rightPadding, -status.bottomPadding);
 }
 
-QRect lowerDate(const Style &style, const QSize &text)
+QRect Layout::lowerDate(const Style &style, const QSize &text)
 {
     const int top = (style.tileRect.bottom() - style.tileRect.top()) - (text.height() - 1)
                     - style.contentBottomMargin;
     return { QPoint(contentLeft(style), top), text };
 }
 
-QRect upperDate(const Style &style, const QSize &text, const QSize &lower)
+QRect Layout::upperDate(const Style &style, const QSize &text, const QSize &lower)
 {
     return lowerDate(style, text).translated(0, -lower.height());
 }
 
-double fraction(qint64 position, qint64 duration)
+double Layout::fraction(qint64 position, qint64 duration)
 {
     return duration > 0 ? double(position) / double(duration) : 0.0;
 }
 
-Progress progress(const Style &style, double fraction)
+Layout::Progress Layout::progress(const Style &style, double fraction)
 {
     const int left = contentLeft(style);
     const int track = style.tileRect.width() - style.contentLeftMargin - style.contentRightMargin;
@@ -93,5 +94,3 @@ Progress progress(const Style &style, double fraction)
     const int viewed = int(std::clamp(track * fraction, -farAway, farAway));
     return { QRect(left, top, viewed, bar), QRect(left + viewed - 1, top, track - viewed, bar) };
 }
-
-} // namespace StbEpisodesViewDelegateLayout

@@ -50,7 +50,6 @@ struct EpisodesScene
     EpisodesScene()
     {
         style.setStyle(oddEpisodesStyle());
-        cell = makeEpisode(qml, stage.contentItem());
         if (!cell)
             qFatal("no cell");
         cell->setPosition(QPointF(20, 30));
@@ -73,7 +72,7 @@ struct EpisodesScene
     design_system::PlayerEpisodesItemQmlStyle style; // odd
     stbtest::QmlScene qml;
     stbtest::HandPictures pictures { qml.engine() };
-    std::unique_ptr<StbEpisodesViewDelegate> cell;
+    std::unique_ptr<StbEpisodesViewDelegate> cell = makeEpisode(qml, stage.contentItem());
     // Cells share a picture of the same name, whatever their engines are: each scene has its own one.
     const QString picture = QStringLiteral("still%1").arg(++scenes);
     static inline int scenes = 0;

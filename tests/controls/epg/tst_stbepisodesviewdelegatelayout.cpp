@@ -7,7 +7,7 @@
 #include <functional>
 #include <limits>
 
-namespace Layout = StbEpisodesViewDelegateLayout;
+using Layout = StbEpisodesViewDelegateLayout;
 using design_system::PlayerEpisodesItemStyle;
 using Style = PlayerEpisodesItemStyle;
 using Change = std::function<void(Style &)>;
