@@ -18,8 +18,9 @@ class StbExpandableTilePrivate;
     and shrinks back when it becomes "normal"; any other state changes nothing. A change of state on the way turns
     the animation round where it is. A state that the tile has from its creation, or that comes while it has no
     style, starts no animation, and another style leaves a focused tile at rest: it grows with the next change of
-    its state. focusedRect is in the tile's coordinates, its left and top edge at or before the origin: how far it
-    sticks out there is taken as an absolute value.
+    its state. A tile that becomes "normal" shrinks from its focused size, even when it was at rest: give it that
+    state from its creation. focusedRect is in the tile's coordinates, its left and top edge at or before the
+    origin: how far it sticks out there is taken as an absolute value.
 
     Both animations have the design system's durations (focus: at least 1 ms) and are switched by QmlSettings when
     the component is complete. Without the settings or the design system, or with the focus animation switched
