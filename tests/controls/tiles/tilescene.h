@@ -15,6 +15,9 @@
 #include <QtCore/qtimeline.h>
 #include <QtGui/qpainter.h>
 
+#include <memory>
+#include <vector>
+
 /*! A picture of four fields in different colours, so that a shift, a flip or a wrong size shows. */
 inline QImage fieldsPicture(const QSize &size = QSize(201, 113))
 {
@@ -88,6 +91,14 @@ struct TileScene
         tile->setPosition(QPointF(60, 50));
     }
 
+    /*! Gives the tile another style object, with \a values in it. */
+    void restyle(const design_system::TileStyle &values)
+    {
+        styles.push_back(std::make_unique<design_system::TileQmlStyle>());
+        styles.back()->setStyle(values);
+        tile->setStyle(styles.back().get());
+    }
+
     /*! Gives the tile a picture and lets it arrive; the fade has begun then, if there is one. */
     bool show(const QImage &picture, const QString &name = QStringLiteral("poster"))
     {
@@ -115,6 +126,7 @@ struct TileScene
     stbtest::HandPictures pictures { qml.engine() };
     stbtest::Stage stage { QSize(400, 320), QColor(0, 60, 40) };
     design_system::TileQmlStyle style;
+    std::vector<std::unique_ptr<design_system::TileQmlStyle>> styles;
     std::unique_ptr<Tile> tile;
 };
 

@@ -80,4 +80,12 @@ inline design_system::TileStyle otherTileStyle()
     return style;
 }
 
+/*! The same without the overlay and the border. */
+inline design_system::TileStyle withoutFrame(design_system::TileStyle style)
+{
+    style.overlayColor = QColor();
+    style.borderPen = QPen(QBrush(QColor()), 0);
+    return style;
+}
+
 #endif // STBTEST_TILESTYLES_H

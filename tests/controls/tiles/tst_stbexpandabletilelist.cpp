@@ -3,6 +3,9 @@
 #include "tilescene.h"
 
 #include <QtQml/qqmlcontext.h>
+#include <QtQuick/private/qquickpixmapcache_p.h>
+
+#include <utility>
 
 namespace {
 
@@ -111,6 +114,38 @@ private Q_SLOTS:
         QCOMPARE(scene.tiles[2]->customFocusRect(), QRect(-23, -17, 253, 161));
         QCOMPARE(scene.tiles[0]->customFocusRect(), QRect(0, 0, 201, 113));
         QCOMPARE(scene.tiles[1]->customFocusRect(), QRect(0, 0, 201, 113));
+    }
+
+    void aTileThatAViewUsesAgainShowsItsNewPictureAtRest()
+    {
+        const QQuickPixmap red(QUrl("itemgrabber:red"), plainPicture(Qt::red));
+        const QQuickPixmap blue(QUrl("itemgrabber:blue"), plainPicture(Qt::blue));
+        Scene scene("ListView { width: 400; height: 300; orientation: ListView.Horizontal; model: 40;"
+                    " reuseItems: true; cacheBuffer: 0; highlightMoveDuration: 0; delegate: ExpandableTile {"
+                    " required property int index; style: tileStyle;"
+                    " imageSource: index < 20 ? 'itemgrabber:red' : 'itemgrabber:blue';"
+                    " state: ListView.isCurrentItem ? 'focused' : 'normal' } }");
+        const QList<StbExpandableTile *> before = std::exchange(scene.tiles, {});
+        advance(tilePrivate(before[0])->m_focusTimeLine, 0.5); // it is given up on its way
+        for (const int current : { 10, 30 }) {
+            scene.list->setProperty("currentIndex", current);
+            scene.stage.renderFrame();
+            scene.stage.renderFrame();
+        }
+        scene.collect(scene.list.get());
+        int usedAgain = 0;
+        for (StbExpandableTile *tile : std::as_const(scene.tiles)) {
+            const int index = tile->property("index").toInt();
+            if (index < 20)
+                continue; // waits to be used
+            finish(tilePrivate(tile)->m_focusTimeLine);
+            scene.stage.renderFrame();
+            usedAgain += before.contains(tile) ? 1 : 0;
+            const QList<stbtest::NodeInfo> nodes = stbtest::childNodes(stbtest::paintNode(tile));
+            QCOMPARE(nodes[0].pixmap.toImage().pixelColor(9, 9), QColor(Qt::blue));
+            QCOMPARE(nodes[0].rect, index == 30 ? QRectF(-23, -17, 253, 161) : QRectF(0, 0, 201, 113));
+        }
+        QVERIFY(usedAgain > 0);
     }
 };
 
