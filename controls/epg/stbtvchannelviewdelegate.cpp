@@ -21,7 +21,7 @@ QSGImageNode *textOf(QSGRectangleNode *box)
 
 void fill(QSGRectangleNode *node, const QColor &color, const QRect &rect)
 {
-    setNodeColor(node, color.isValid() ? color : QColor(Qt::transparent)); // an invalid one would paint black
+    setNodeColor(node, visibleColor(color));
     setNodeRect(node, QRectF(rect));
 }
 
