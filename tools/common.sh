@@ -25,6 +25,7 @@ STB_PACKAGES_RUN=(
 # Qt Quick Controls are what the benchmarks compare with; nothing else of the project uses them.
 STB_PACKAGES_TEST=(libgl1-mesa-dri qml6-module-qtquick-controls qml6-module-qttest xauth xvfb)
 STB_PACKAGES_LINT=(clang-format-14 clang-tidy-14 shellcheck)
+STB_PACKAGES_DRAWING=(librsvg2-bin)
 STB_PACKAGES_MATRIX=(ca-certificates git mmdebstrap)
 
 say() { printf '%s\n' "$*"; }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "guidetext.h"
-#include "peakmemory.h"
+#include "testkit/peakmemory.h"
 #include "testkit/testcase.h"
 
 #include <QtCore/qiodevice.h>
@@ -91,7 +91,7 @@ void TestGuideMemory::readingNeedsLittleMoreThanTheGuideItself()
     QFETCH(qint64, size);
     QFETCH(qint64, allowed);
     Generator file(size);
-    const PeakMemory memory;
+    const stbtest::PeakMemory memory;
     QVERIFY(memory.isValid());
     const GuideReport report = readGuide(&file, QStringLiteral("generated"));
     const qint64 peak = memory.bytes();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "../data/peakmemory.h"
 #include "gallery/screens/picturedecoder.h"
 #include "picturerequest.h"
+#include "testkit/peakmemory.h"
 #include "testkit/testcase.h"
 
 #include <QtCore/qbuffer.h>
@@ -277,7 +277,7 @@ void TestPictureProvider::aHugePictureTakesNoMemory()
     const QString name = write("huge", encoded(speckled(8000, QImage::Format_Grayscale8), format));
     QVERIFY(!name.isEmpty());
     PictureEngine engine;
-    const PeakMemory peak;
+    const stbtest::PeakMemory peak;
     QVERIFY(peak.isValid());
     const PictureRequest request(&engine, Pictures::filling(file(name), 270, 152));
     QTRY_VERIFY(request.isOver());
@@ -303,7 +303,7 @@ void TestPictureProvider::theLargestPictureTakesLittleMemory()
     const QString name = write("largest", encoded(speckled(4096, QImage::Format(pictureFormat)), format));
     QVERIFY(!name.isEmpty());
     PictureEngine engine;
-    const PeakMemory peak;
+    const stbtest::PeakMemory peak;
     const PictureRequest request(&engine, Pictures::filling(file(name), 270, 152));
     QTRY_VERIFY_WITH_TIMEOUT(request.isOver(), 60000);
     QCOMPARE(request.image().size(), QSize(270, 152));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "peakmemory.h"
+#include "testkit/peakmemory.h"
 
 #include <QtCore/qfile.h>
 
@@ -22,6 +22,8 @@ int __sanitizer_install_malloc_and_free_hooks(void (*allocated)(const volatile v
                                               void (*freed)(const volatile void *));
 size_t __sanitizer_get_allocated_size(const volatile void *memory);
 }
+
+namespace stbtest {
 
 namespace {
 
@@ -55,7 +57,11 @@ qint64 PeakMemory::bytes() const
     return mostInUse - m_before;
 }
 
+} // namespace stbtest
+
 #else
+
+namespace stbtest {
 
 namespace {
 
@@ -89,5 +95,7 @@ qint64 PeakMemory::bytes() const
 {
     return memory("VmHWM") - m_before;
 }
+
+} // namespace stbtest
 
 #endif

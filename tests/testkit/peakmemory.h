@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
-#ifndef PEAKMEMORY_H
-#define PEAKMEMORY_H
+#ifndef STBTEST_PEAKMEMORY_H
+#define STBTEST_PEAKMEMORY_H
 
 #include <QtCore/qglobal.h>
+
+namespace stbtest {
 
 /*!
     The most memory that the process has used at once since this object was made, above what it used then. In
@@ -25,4 +27,6 @@ private:
     bool m_valid = false;
 };
 
-#endif // PEAKMEMORY_H
+} // namespace stbtest
+
+#endif // STBTEST_PEAKMEMORY_H
