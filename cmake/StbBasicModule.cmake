@@ -55,6 +55,7 @@ qt_add_qml_module(${module}
         controls/epg/stbtvchannelviewdelegatelayout.cpp controls/epg/stbtvchannelviewdelegatelayout.h
         controls/propertysetters.h
         controls/stylereference.h
+        controls/wholepixels.h
         controls/tiles/stbcontenttile.cpp controls/tiles/stbcontenttile.h controls/tiles/stbcontenttile_p.h
         controls/tiles/stbcontenttilelayout.cpp controls/tiles/stbcontenttilelayout.h
         controls/tiles/stbexpandabletile.cpp controls/tiles/stbexpandabletile.h

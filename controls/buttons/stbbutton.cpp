@@ -3,6 +3,7 @@
 
 #include "controls/buttons/stbbuttonlayout.h"
 #include "controls/propertysetters.h"
+#include "controls/wholepixels.h"
 #include "scenegraph/childnodes.h"
 #include "scenegraph/nodehelpers.h"
 
@@ -379,8 +380,8 @@ void StbButtonPrivate::relayout()
     const Style style = m_style->style();
     StbButtonLayout::Content content;
     content.fixed = isFixedSize();
-    content.width = StbButtonLayout::wholePixels(q->width() > 0 ? q->width() : q->implicitWidth());
-    content.height = StbButtonLayout::wholePixels(q->height() > 0 ? q->height() : q->implicitHeight());
+    content.width = wholePixels(q->width() > 0 ? q->width() : q->implicitWidth());
+    content.height = wholePixels(q->height() > 0 ? q->height() : q->implicitHeight());
     content.leftPadding = m_leftPadding;
     content.rightPadding = m_rightPadding;
     content.leftIcon = m_leftIcon.pixmap().size();

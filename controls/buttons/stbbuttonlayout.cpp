@@ -1,25 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "controls/buttons/stbbuttonlayout.h"
 
+#include "controls/wholepixels.h"
+
 #include <design_system/buttonstyle.h>
 
 #include <algorithm>
 #include <cmath>
+
+using qml_basic_plugin::wholePixels;
 
 namespace {
 
 using Style = design_system::QmlButtonStyle;
 using Content = StbButtonLayout::Content;
 
-// Half of what an int holds: a corner and an extent within it still add up to an int.
-constexpr int maxCoordinate = 1 << 30;
 constexpr int maxThrobberSide = 2048;
-
-// Style numbers may be anything an int can be, so sums are made in 64 bits.
-int bounded(qint64 value)
-{
-    return int(std::clamp<qint64>(value, -maxCoordinate, maxCoordinate));
-}
 
 bool isShown(const QSize &size)
 {
@@ -28,12 +24,12 @@ bool isShown(const QSize &size)
 
 QRect placed(qint64 x, qint64 y, const QSize &size)
 {
-    return isShown(size) ? QRect(QPoint(bounded(x), bounded(y)), size) : QRect();
+    return isShown(size) ? QRect(QPoint(wholePixels(x), wholePixels(y)), size) : QRect();
 }
 
 qint64 padding(double own, int ofStyle)
 {
-    return own > 0 ? StbButtonLayout::wholePixels(own) : ofStyle;
+    return own > 0 ? wholePixels(own) : ofStyle;
 }
 
 // What the parts are placed between, from left to right.
@@ -125,24 +121,17 @@ StbButtonLayout StbButtonLayout::compute(const Style &style, const Content &cont
         layout.rightIcon = placed(x, middle - content.rightIcon.height() / 2, content.rightIcon);
         x += content.rightIcon.width();
     }
-    layout.implicitWidth = bounded(x + columns.rightPadding);
+    layout.implicitWidth = wholePixels(x + columns.rightPadding);
     return layout;
 }
 
 int StbButtonLayout::textWidth(const Style &style, const Content &content)
 {
-    return bounded(columns(style, content).textWidth);
+    return wholePixels(columns(style, content).textWidth);
 }
 
 int StbButtonLayout::throbberSide(double height)
 {
     constexpr double heightsPerSide = 2.5;
     return std::min(wholePixels(std::ceil(height / heightsPerSide)), maxThrobberSide);
-}
-
-int StbButtonLayout::wholePixels(double value)
-{
-    if (std::isnan(value))
-        return 0;
-    return int(std::clamp<double>(value, -maxCoordinate, maxCoordinate));
 }

@@ -52,9 +52,6 @@ struct StbButtonLayout
     /*! The side of the throbber's square in a button \a height pixels high; bounded, as it costs memory. */
     static int throbberSide(double height);
 
-    /*! \a value without its fraction; no number is 0, and what no layout can hold is bounded. */
-    static int wholePixels(double value);
-
     bool operator==(const StbButtonLayout &) const = default;
 };
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/buttons/stbbuttonwithcheckindicator_p.h"
 
-#include "controls/buttons/stbbuttonlayout.h"
+#include "controls/wholepixels.h"
 #include "scenegraph/childnodes.h"
 #include "scenegraph/nodehelpers.h"
 
@@ -31,7 +31,6 @@ void StbButtonWithCheckIndicatorPrivate::updateExtendedNodes(const Style &style,
     if (!indicator)
         return;
     const QRectF size(style.checkIndicatorSize);
-    const double top = StbButtonLayout::wholePixels(height) - size.height()
-                       - style.checkIndicatorBottomMargin;
+    const double top = wholePixels(height.value()) - size.height() - style.checkIndicatorBottomMargin;
     setNodeRect(indicator, QRectF(style.checkIndicatorLeft, top, size.width(), size.height()));
 }

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "controls/tiles/stbcontenttilelayout.h"
 
+#include "controls/wholepixels.h"
+
 #include <algorithm>
 
 namespace {
-
-constexpr int farAway = 1 << 24; // beyond any screen; the sums with it stay within integers
 
 // Icon and title, the smaller one centred beside the other. Returns where the next line starts.
 int placeFirstLine(StbContentTileLayout &layout, int top, int spacing,
@@ -44,7 +44,7 @@ QRect placeLine(int &top, int spacing, const std::optional<QRect> &text)
 StbContentTileLayout StbContentTileLayout::compute(int pictureBottom, int spacing, const Content &content)
 {
     StbContentTileLayout layout;
-    const int bottom = std::clamp(pictureBottom, -farAway, farAway);
+    const int bottom = qml_basic_plugin::wholePixels(pictureBottom, qml_basic_plugin::farAway);
     int top = placeFirstLine(layout, bottom + spacing, spacing, content);
     layout.subtitle = placeLine(top, spacing, content.subtitle);
     layout.status = placeLine(top, spacing, content.status);

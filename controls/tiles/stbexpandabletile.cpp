@@ -2,6 +2,7 @@
 #include "controls/tiles/stbexpandabletile_p.h"
 
 #include "controls/propertysetters.h"
+#include "controls/wholepixels.h"
 #include "plugin/qmlsettings.h"
 #include "scenegraph/childnodes.h"
 #include "scenegraph/nodehelpers.h"
@@ -10,7 +11,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 using namespace qml_basic_plugin;
 
@@ -24,16 +24,6 @@ QRectF floatRect(const QRect &rect)
     const double left = rect.left();
     const double top = rect.top();
     return QRectF(left, top, rect.right() - left + 1, rect.bottom() - top + 1);
-}
-
-// The integer part, within the range of integers.
-int bounded(double value)
-{
-    constexpr int lowest = std::numeric_limits<int>::min();
-    constexpr int highest = std::numeric_limits<int>::max();
-    if (!(value > lowest))
-        return lowest;
-    return value < highest ? int(value) : highest;
 }
 
 bool hasBorder(const QPen &pen)
@@ -211,10 +201,10 @@ void StbExpandableTilePrivate::updateGeometry()
     m_customFocusRect = style.tileRect;
     const QRect rest = m_customFocusRect;
     const QRect focused = style.focusedRect;
-    m_leftFocusMargin = bounded(std::abs(double(focused.left())));
-    m_topFocusMargin = bounded(std::abs(double(focused.top())));
-    m_rightFocusMargin = bounded(double(focused.right()) - rest.right());
-    m_bottomFocusMargin = bounded(double(focused.bottom()) - rest.bottom());
+    m_leftFocusMargin = wholePixels(std::abs(double(focused.left())));
+    m_topFocusMargin = wholePixels(std::abs(double(focused.top())));
+    m_rightFocusMargin = wholePixels(double(focused.right()) - rest.right());
+    m_bottomFocusMargin = wholePixels(double(focused.bottom()) - rest.bottom());
 }
 
 void StbExpandableTilePrivate::applyStyleSize()
@@ -232,7 +222,7 @@ void StbExpandableTilePrivate::applyStyleSize()
 QRect StbExpandableTilePrivate::expandedRect(const QRect &tileRect, double progress) const
 {
     const auto moved = [progress](int edge, int margin) {
-        return bounded(edge + std::round(margin * progress));
+        return wholePixels(edge + std::round(margin * progress));
     };
     return QRect(QPoint(moved(tileRect.left(), -m_leftFocusMargin), moved(tileRect.top(), -m_topFocusMargin)),
                  QPoint(moved(tileRect.right(), m_rightFocusMargin),

@@ -1,20 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "controls/tiles/stbvodtilelayout.h"
 
+#include "controls/wholepixels.h"
+
 #include <design_system/tilestyle.h>
 
 #include <algorithm>
 #include <cmath>
 
 using design_system::TileStyle;
+using qml_basic_plugin::farAway;
+using qml_basic_plugin::wholePixels;
 
 namespace {
 
-constexpr int farAway = 1 << 24; // beyond any screen; the sums with it stay within integers
-
 QRect boundedRect(const QRect &rect)
 {
-    const auto bounded = [](int edge) { return std::clamp(edge, -farAway, farAway); };
+    const auto bounded = [](int edge) { return wholePixels(edge, farAway); };
     return QRect(QPoint(bounded(rect.left()), bounded(rect.top())),
                  QPoint(bounded(rect.right()), bounded(rect.bottom())));
 }

@@ -339,15 +339,6 @@ private Q_SLOTS:
         QCOMPARE(StbButtonLayout::throbberSide(height), side);
     }
 
-    void realNumbersAreCutAndBounded()
-    {
-        QCOMPARE(StbButtonLayout::wholePixels(3.99), 3);
-        QCOMPARE(StbButtonLayout::wholePixels(-3.99), -3);
-        QCOMPARE(StbButtonLayout::wholePixels(std::numeric_limits<double>::quiet_NaN()), 0);
-        QCOMPARE(StbButtonLayout::wholePixels(std::numeric_limits<double>::infinity()), 1 << 30);
-        QCOMPARE(StbButtonLayout::wholePixels(-1e300), -(1 << 30));
-    }
-
     void whateverTheSizeThePartsKeepTheirSizesAndOrder()
     {
         const Style style = oddButtonStyle();
