@@ -6,7 +6,6 @@
 #include "scenegraph/nodehelpers.h"
 
 #include <QtCore/qcoreapplication.h>
-#include <QtQuick/private/qsgcontext_p.h>
 #include <QtQuick/qsgtexture.h>
 
 using namespace qml_basic_plugin;

@@ -10,6 +10,7 @@
 #include "scenegraph/textnodebuilder.h"
 
 #include <QtQuick/private/qquickitem_p.h>
+#include <QtQuick/private/qsgcontext_p.h>
 
 #include <memory>
 

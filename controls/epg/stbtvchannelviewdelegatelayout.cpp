@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "controls/epg/stbtvchannelviewdelegatelayout.h"
 
+#include "controls/wholepixels.h"
+
 #include <design_system/playertvchannelitemstyle.h>
 
 #include <algorithm>
@@ -11,8 +13,7 @@ namespace {
 using Layout = StbTvChannelViewDelegateLayout;
 using Style = design_system::PlayerTvChannelItemStyle;
 using design_system::TextStyle;
-
-constexpr int farAway = 1 << 24; // beyond any screen; the sums with it stay within integers
+using qml_basic_plugin::farAway;
 
 // Where a text in a box begins, from the box's place on.
 QPoint paddingOf(const TextStyle &style)
@@ -134,5 +135,5 @@ int StbTvChannelViewDelegateLayout::nameWidth(const Style &style, const Content 
 
 int StbTvChannelViewDelegateLayout::wholePixels(double value)
 {
-    return std::isnan(value) ? 0 : int(std::clamp<double>(value, -farAway, farAway));
+    return qml_basic_plugin::wholePixels(value, farAway);
 }
