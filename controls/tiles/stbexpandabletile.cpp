@@ -286,18 +286,18 @@ void StbExpandableTilePrivate::setFading(QSGNode *root, bool fading)
 {
     if (!m_hasImageNode || m_hasOpacityNode == fading)
         return;
-    QSGNode *node = root->childAtIndex(m_hasBackgroundNode ? 1 : 0);
+    QSGNode *shown = root->childAtIndex(m_hasBackgroundNode ? 1 : 0);
     if (fading) {
         auto *opacityNode = new QSGOpacityNode;
-        root->insertChildNodeBefore(opacityNode, node);
-        root->removeChildNode(node);
-        opacityNode->appendChildNode(node);
+        root->insertChildNodeBefore(opacityNode, shown);
+        root->removeChildNode(shown);
+        opacityNode->appendChildNode(shown);
     } else {
-        QSGNode *imageNode = node->firstChild();
-        node->removeChildNode(imageNode);
-        root->insertChildNodeBefore(imageNode, node);
-        root->removeChildNode(node);
-        delete node;
+        QSGNode *imageNode = shown->firstChild();
+        shown->removeChildNode(imageNode);
+        root->insertChildNodeBefore(imageNode, shown);
+        root->removeChildNode(shown);
+        delete shown;
     }
     m_hasOpacityNode = fading;
 }
