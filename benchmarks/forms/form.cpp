@@ -10,7 +10,20 @@ namespace stbbench {
 
 QList<Subject> allSubjects()
 {
-    return { epgRow(), button(), buttonWithCheckIndicator(), expandableTile(), contentTile(), vodTile() };
+    return { epgRow(),
+             epgCard(),
+             epgProgram(),
+             epgDate(),
+             channelRow(),
+             startedEpisode(),
+             newEpisode(),
+             viewedEpisode(),
+             comingEpisode(),
+             button(),
+             buttonWithCheckIndicator(),
+             expandableTile(),
+             contentTile(),
+             vodTile() };
 }
 
 Form::Form(QQmlEngine *engine, const FormSource &source)

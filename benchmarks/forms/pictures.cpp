@@ -38,7 +38,7 @@ QImage paintLogo()
     return image;
 }
 
-/*! One of the two pictures, by the first letters of its name. */
+/*! One of the pictures, by the first letters of its name. */
 class Provider : public QQuickImageProvider
 {
 public:
@@ -49,14 +49,25 @@ public:
 
     QImage requestImage(const QString &id, QSize *size, const QSize &) override
     {
-        const QImage image = id.startsWith(QLatin1String("poster")) ? m_poster : m_logo;
+        const QImage image = picture(id);
         *size = image.size();
         return image;
     }
 
 private:
+    QImage picture(const QString &id) const
+    {
+        if (id == QLatin1String("sheet"))
+            return m_sheet;
+        if (id.startsWith(QLatin1String("channel")))
+            return m_channel;
+        return id.startsWith(QLatin1String("poster")) ? m_poster : m_logo;
+    }
+
     const QImage m_poster = paintPoster();
     const QImage m_logo = paintLogo();
+    const QImage m_channel = m_poster.scaled(128, 72);
+    const QImage m_sheet = placeholderSheet();
 };
 
 } // namespace
@@ -74,6 +85,21 @@ QUrl posterUrl(int index)
 QUrl logoUrl(int index)
 {
     return QUrl(QStringLiteral("image://benchmarks/logo-%1").arg(index));
+}
+
+QUrl channelUrl(int index)
+{
+    return QUrl(QStringLiteral("image://benchmarks/channel-%1").arg(index));
+}
+
+QImage placeholderSheet()
+{
+    QImage image(256, 72, QImage::Format_RGB32);
+    QPainter painter(&image);
+    painter.fillRect(QRect(0, 0, 128, 72), QColor(0x40, 0x58, 0x70));
+    painter.fillRect(QRect(128, 0, 128, 72), QColor(0x60, 0x48, 0x70));
+    painter.fillRect(QRect(40, 20, 176, 32), QColor(0x90, 0xa0, 0xb0));
+    return image;
 }
 
 bool waitForFrame(stbtest::Stage &stage)

@@ -3,6 +3,7 @@
 #define STBBENCH_PICTURES_H
 
 #include <QtCore/qurl.h>
+#include <QtGui/qimage.h>
 
 QT_BEGIN_NAMESPACE
 class QQmlEngine;
@@ -26,6 +27,12 @@ QUrl posterUrl(int index);
 
 /*! The logo number \a index, 48 x 24 with a transparent background. */
 QUrl logoUrl(int index);
+
+/*! Two placeholders for channels' logos side by side, 128 x 72 each; image://benchmarks/sheet in QML. */
+QImage placeholderSheet();
+
+/*! The channel's logo number \a index, 128 x 72. */
+QUrl channelUrl(int index);
 
 /*!
     Lets events happen until an item on \a stage asks for a frame: a picture has arrived, a throbber has turned.

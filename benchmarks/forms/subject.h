@@ -60,6 +60,14 @@ Subject buttonWithCheckIndicator();
 Subject expandableTile();
 Subject contentTile();
 Subject vodTile();
+Subject epgCard();
+Subject epgProgram();
+Subject epgDate();
+Subject channelRow();
+Subject startedEpisode();
+Subject newEpisode();
+Subject viewedEpisode();
+Subject comingEpisode();
 
 QList<Subject> allSubjects();
 
