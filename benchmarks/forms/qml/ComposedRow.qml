@@ -54,34 +54,11 @@ Item {
         color: "#a0b0c0"
     }
 
-    Rectangle {
+    LiveBadge {
         id: badge
 
         visible: row.tvProgramIsLive
         x: 96
         y: 3
-        width: label.width + indicator.width + 15
-        height: label.height + 8
-        color: "#c02030"
-
-        Text {
-            id: label
-
-            x: indicator.x + indicator.width + 6
-            y: 4
-            text: "NOW_IN_LIVE"
-            textFormat: Text.PlainText
-            font.family: "DejaVu Sans"
-            font.pixelSize: 14
-            color: "white"
-        }
-
-        Image {
-            id: indicator
-
-            x: 4
-            y: 4 + Math.floor((label.height - height) / 2)
-            source: "qrc:/resources/icons/live_status_on.png"
-        }
     }
 }
