@@ -43,6 +43,10 @@ QVariant ChannelModel::data(const QModelIndex &index, int role) const
         return channel.number;
     case LogoRole:
         return channel.icon;
+    case GroupRole:
+        return channel.group;
+    case QualityRole:
+        return channel.quality;
     default:
         return {};
     }
@@ -50,9 +54,8 @@ QVariant ChannelModel::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> ChannelModel::roleNames() const
 {
-    return {
-        { ChannelIdRole, "channelId" }, { NameRole, "name" }, { NumberRole, "number" }, { LogoRole, "logo" }
-    };
+    return { { ChannelIdRole, "channelId" }, { NameRole, "name" },   { NumberRole, "number" },
+             { LogoRole, "logo" },           { GroupRole, "group" }, { QualityRole, "quality" } };
 }
 
 } // namespace gallery

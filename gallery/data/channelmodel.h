@@ -18,7 +18,9 @@ public:
         ChannelIdRole = Qt::UserRole + 1, /*!< channelId: QString, as in the guide file */
         NameRole, /*!< name: QString, never empty; also Qt::DisplayRole */
         NumberRole, /*!< number: QString such as "7" or "7-1", empty when the guide gives none */
-        LogoRole /*!< logo: QUrl, empty when there is none */
+        LogoRole, /*!< logo: QUrl, empty when there is none */
+        GroupRole, /*!< group: QString such as "News", empty without a playlist that gives one */
+        QualityRole /*!< quality: QString such as "HD", empty without a playlist that tells it */
     };
     Q_ENUM(Role)
 

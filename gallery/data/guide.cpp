@@ -27,6 +27,22 @@ qsizetype firstFrom(const Programmes &programmes, qint64 time)
 
 } // namespace
 
+void GuideData::summarize()
+{
+    qint64 first = std::numeric_limits<qint64>::max();
+    qint64 last = std::numeric_limits<qint64>::min();
+    for (size_t i = 0; i < channels.size(); ++i) {
+        const ChannelProgrammes &programmes = *channels[i].programmes;
+        channelById.insert(channels[i].channel.id, int(i));
+        programmeCount += qint64(programmes.records.size());
+        last = std::max(last, programmes.lastStop);
+        if (!programmes.records.empty())
+            first = std::min(first, programmes.records.front().start);
+    }
+    if (programmeCount > 0)
+        time = { first, last };
+}
+
 Guide::Guide()
     : m_data(std::make_shared<const GuideData>())
 {
@@ -61,13 +77,13 @@ qint64 Guide::programmeCount() const
 int Guide::programmeCount(int channel) const
 {
     Q_ASSERT(channel >= 0 && channel < channelCount());
-    return int(m_data->channels[size_t(channel)].programmes.size());
+    return int(m_data->channels[size_t(channel)].programmes->records.size());
 }
 
 Programme Guide::programme(int channel, int programme) const
 {
     Q_ASSERT(programme >= 0 && programme < programmeCount(channel));
-    const ProgrammeRecord &record = m_data->channels[size_t(channel)].programmes[size_t(programme)];
+    const ProgrammeRecord &record = m_data->channels[size_t(channel)].programmes->records[size_t(programme)];
     return { { record.start, record.stop },   TextPool::text(record.title),
              TextPool::text(record.subTitle), TextPool::text(record.description),
              TextPool::text(record.category), QUrl::fromEncoded(TextPool::text(record.picture).toLatin1()) };
@@ -76,20 +92,20 @@ Programme Guide::programme(int channel, int programme) const
 TimeSpan Guide::timeSpan(int channel, int programme) const
 {
     Q_ASSERT(programme >= 0 && programme < programmeCount(channel));
-    const ProgrammeRecord &record = m_data->channels[size_t(channel)].programmes[size_t(programme)];
+    const ProgrammeRecord &record = m_data->channels[size_t(channel)].programmes->records[size_t(programme)];
     return { record.start, record.stop };
 }
 
 int Guide::programmeAt(int channel, qint64 time) const
 {
     Q_ASSERT(channel >= 0 && channel < channelCount());
-    const ChannelRecord &record = m_data->channels[size_t(channel)];
+    const ChannelProgrammes &record = *m_data->channels[size_t(channel)].programmes;
     qsizetype found = -1;
-    for (qsizetype i = firstAfter(record.programmes, time) - 1; i >= 0; --i) {
-        const ProgrammeRecord &programme = record.programmes[size_t(i)];
+    for (qsizetype i = firstAfter(record.records, time) - 1; i >= 0; --i) {
+        const ProgrammeRecord &programme = record.records[size_t(i)];
         if (time - programme.start >= record.longest)
             break;
-        if (found >= 0 && programme.start < record.programmes[size_t(found)].start)
+        if (found >= 0 && programme.start < record.records[size_t(found)].start)
             break;
         if (time < programme.stop)
             found = i;
@@ -100,7 +116,7 @@ int Guide::programmeAt(int channel, qint64 time) const
 int Guide::nextProgramme(int channel, qint64 time) const
 {
     Q_ASSERT(channel >= 0 && channel < channelCount());
-    const Programmes &programmes = m_data->channels[size_t(channel)].programmes;
+    const Programmes &programmes = m_data->channels[size_t(channel)].programmes->records;
     const qsizetype next = firstAfter(programmes, time);
     return next < qsizetype(programmes.size()) ? int(next) : -1;
 }
@@ -108,20 +124,20 @@ int Guide::nextProgramme(int channel, qint64 time) const
 int Guide::previousProgramme(int channel, qint64 time) const
 {
     Q_ASSERT(channel >= 0 && channel < channelCount());
-    return int(firstFrom(m_data->channels[size_t(channel)].programmes, time)) - 1;
+    return int(firstFrom(m_data->channels[size_t(channel)].programmes->records, time)) - 1;
 }
 
 QList<int> Guide::programmesIn(int channel, const TimeSpan &span) const
 {
     Q_ASSERT(channel >= 0 && channel < channelCount());
-    const ChannelRecord &record = m_data->channels[size_t(channel)];
-    const qsizetype begin = firstFrom(record.programmes, span.start);
+    const ChannelProgrammes &record = *m_data->channels[size_t(channel)].programmes;
+    const qsizetype begin = firstFrom(record.records, span.start);
     QList<int> rows;
-    for (qsizetype i = firstAfter(record.programmes, span.start - record.longest); i < begin; ++i) {
-        if (record.programmes[size_t(i)].stop > span.start)
+    for (qsizetype i = firstAfter(record.records, span.start - record.longest); i < begin; ++i) {
+        if (record.records[size_t(i)].stop > span.start)
             rows.append(int(i));
     }
-    const qsizetype end = firstFrom(record.programmes, span.stop);
+    const qsizetype end = firstFrom(record.records, span.stop);
     for (qsizetype i = begin; i < end; ++i)
         rows.append(int(i));
     return rows;
@@ -134,8 +150,33 @@ TimeSpan Guide::timeSpan() const
 
 qint64 Guide::memoryUsage() const
 {
-    return qint64(m_data->texts.bytes()) + m_data->programmeCount * qint64(sizeof(ProgrammeRecord))
-           + qint64(m_data->channels.size() * sizeof(ChannelRecord));
+    const qint64 own = qint64(m_data->channels.size()) * qint64(sizeof(ChannelRecord));
+    if (m_data->source)
+        return own + Guide(m_data->source).memoryUsage();
+    return own + qint64(m_data->texts.bytes()) + m_data->programmeCount * qint64(sizeof(ProgrammeRecord));
+}
+
+Guide Guide::withChannels(const QList<ShownChannel> &channels) const
+{
+    const auto none = std::make_shared<ChannelProgrammes>();
+    auto data = std::make_shared<GuideData>();
+    data->source = m_data->source ? m_data->source : m_data;
+    data->channels.reserve(size_t(channels.size()));
+    for (const ShownChannel &shown : channels) {
+        Q_ASSERT(shown.source < channelCount());
+        const bool known = shown.source >= 0;
+        data->channels.push_back(
+                { shown.channel, known ? m_data->channels[size_t(shown.source)].programmes : none, true });
+    }
+    data->summarize();
+    Q_ASSERT(data->channelById.size() == channels.size());
+    return Guide(data);
+}
+
+bool Guide::sharesProgrammes(int channel, const Guide &other, int otherChannel) const
+{
+    return m_data->channels[size_t(channel)].programmes
+           == other.m_data->channels[size_t(otherChannel)].programmes;
 }
 
 TimeSpan localDay(QDate date)

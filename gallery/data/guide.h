@@ -25,6 +25,10 @@ struct Channel
     QString number;
     /*! The channel's picture: a web address or an existing local file; empty when there is none. */
     QUrl icon;
+    /*! The group that a playlist puts the channel in ("News"); else empty. */
+    QString group = {};
+    /*! The quality that a playlist tells ("HD", "4K"); else empty. */
+    QString quality = {};
 };
 
 /*! From \a start on, up to but not including \a stop, in seconds since 1970-01-01 00:00 UTC. */
@@ -35,6 +39,14 @@ struct TimeSpan
 
     bool contains(qint64 time) const { return time >= start && time < stop; }
     friend bool operator==(const TimeSpan &, const TimeSpan &) = default;
+};
+
+/*! A channel to be shown, and the channel of a guide whose programmes it has. */
+struct ShownChannel
+{
+    Channel channel;
+    /*! Index of the channel in the guide; -1 for a channel without programmes. */
+    int source = -1;
 };
 
 /*! One programme, with its texts in the language that was asked for when the guide was read. */
@@ -101,7 +113,16 @@ public:
     /*! From the first start to the last stop of all programmes; 0 to 0 without any. */
     TimeSpan timeSpan() const;
 
-    /*! About how many bytes of memory the guide takes. */
+    /*!
+        This guide's programmes under the channels \a channels, in their order; other channels are left out. The
+        programmes are shared, not copied, and stay as long as one guide that shows them. The ids of the channels
+        are different from each other (asserted); a source may be there more than once.
+    */
+    Guide withChannels(const QList<ShownChannel> &channels) const;
+    /*! Whether the programmes of \a channel are the very ones of \a otherChannel in \a other, not a copy. */
+    bool sharesProgrammes(int channel, const Guide &other, int otherChannel) const;
+
+    /*! About how many bytes of memory the guide takes, those included that it shares with another guide. */
     qint64 memoryUsage() const;
 
 private:

@@ -9,6 +9,7 @@
 
 #include <deque>
 #include <limits>
+#include <memory>
 #include <vector>
 
 namespace gallery {
@@ -29,17 +30,28 @@ struct ProgrammeRecord
     qint32 length = 0; // seconds, 0 when not known; only used for a last programme without stop
 };
 
+/*! The programmes of one channel; guides that show them under different channels share them. */
+struct ChannelProgrammes
+{
+    // A deque, because it grows without ever holding everything twice.
+    std::deque<ProgrammeRecord> records;
+    qint64 longest = 0; // the longest programme, in seconds: how far back a running one can have begun
+    qint64 lastStop = std::numeric_limits<qint64>::min();
+};
+
 struct ChannelRecord
 {
     Channel channel;
-    // A deque, because it grows without ever holding everything twice.
-    std::deque<ProgrammeRecord> programmes;
-    qint64 longest = 0; // the longest programme, in seconds: how far back a running one can have begun
+    std::shared_ptr<ChannelProgrammes> programmes; // never null, never changed once the guide is made
     bool declared = false;
 };
 
 struct GuideData
 {
+    /*! Makes the index of the channels' ids and the sums over all channels. */
+    void summarize();
+
+    std::shared_ptr<const GuideData> source; // owns the texts of programmes that are shared with it
     std::vector<ChannelRecord> channels;
     QHash<QString, int> channelById;
     TextPool texts;

@@ -70,23 +70,12 @@ qint64 arrange(std::deque<ProgrammeRecord> &programmes)
     return removeDuplicates(programmes);
 }
 
-void summarize(GuideData &data)
+void measure(ChannelProgrammes &programmes)
 {
-    qint64 first = std::numeric_limits<qint64>::max();
-    qint64 last = std::numeric_limits<qint64>::min();
-    for (size_t i = 0; i < data.channels.size(); ++i) {
-        ChannelRecord &channel = data.channels[i];
-        data.channelById.insert(channel.channel.id, int(i));
-        data.programmeCount += qint64(channel.programmes.size());
-        for (const ProgrammeRecord &programme : channel.programmes) {
-            channel.longest = std::max(channel.longest, programme.stop - programme.start);
-            last = std::max(last, programme.stop);
-        }
-        if (!channel.programmes.empty())
-            first = std::min(first, channel.programmes.front().start);
+    for (const ProgrammeRecord &programme : programmes.records) {
+        programmes.longest = std::max(programmes.longest, programme.stop - programme.start);
+        programmes.lastStop = std::max(programmes.lastStop, programme.stop);
     }
-    if (data.programmeCount > 0)
-        data.time = { first, last };
 }
 
 } // namespace
@@ -106,6 +95,7 @@ size_t GuideBuilder::channelIndex(const QString &id)
     const size_t index = m_data->channels.size();
     m_data->channels.emplace_back();
     m_data->channels[index].channel.id = id;
+    m_data->channels[index].programmes = std::make_shared<ChannelProgrammes>();
     m_data->channelById.insert(id, int(index));
     return index;
 }
@@ -136,7 +126,7 @@ void GuideBuilder::addProgramme(const NewProgramme &programme)
     record.picture = texts.add(programme.picture.toString(QUrl::FullyEncoded));
     record.clumpIndex = programme.clumpIndex;
     record.length = programme.length;
-    m_data->channels[channelIndex(programme.channelId)].programmes.push_back(record);
+    m_data->channels[channelIndex(programme.channelId)].programmes->records.push_back(record);
 }
 
 Guide GuideBuilder::take(const std::atomic<bool> *cancelled)
@@ -150,11 +140,12 @@ Guide GuideBuilder::take(const std::atomic<bool> *cancelled)
     for (ChannelRecord &channel : data->channels) {
         if (cancelled && cancelled->load(std::memory_order_relaxed))
             return Guide();
-        m_duplicates += arrange(channel.programmes);
+        m_duplicates += arrange(channel.programmes->records);
+        measure(*channel.programmes);
         if (channel.channel.name.isEmpty())
             channel.channel.name = channel.channel.id;
     }
-    summarize(*data);
+    data->summarize();
     return Guide(std::make_shared<const GuideData>(std::move(*data)));
 }
 

@@ -2,9 +2,9 @@
 #include "gallery/data/xmltvparser.h"
 
 #include "gallery/data/guideinput.h"
+#include "gallery/data/pictureaddress.h"
+#include "gallery/data/playlist.h"
 #include "gallery/data/xmltvtime.h"
-
-#include <QtCore/qfileinfo.h>
 
 #include <algorithm>
 #include <utility>
@@ -17,21 +17,6 @@ namespace {
 constexpr int maximumDepth = 100;
 constexpr int entryDepth = 2; // channels and programmes, below the root
 constexpr int detailDepth = 3;
-
-// "7", "7-1", "7.1": a name that is the channel's number.
-bool isChannelNumber(QStringView name)
-{
-    int separators = 0;
-    for (qsizetype i = 0; i < name.size(); ++i) {
-        const QChar c = name[i];
-        const bool separator = (c == u'-' || c == u'.') && i > 0 && i < name.size() - 1;
-        if (separator)
-            ++separators;
-        else if (c < u'0' || c > u'9')
-            return false;
-    }
-    return !name.isEmpty() && separators <= 1;
-}
 
 QStringView baseLanguage(QStringView language)
 {
@@ -203,7 +188,7 @@ void XmltvParser::finishChannel()
     channel.id = m_attributes.value(QLatin1String("id")).toString();
     channel.number = m_choices[Number].text;
     channel.name = m_choices[Name].text.isEmpty() ? channel.number : m_choices[Name].text;
-    channel.icon = iconUrl(m_choices[Icon].text);
+    channel.icon = pictureAddress(m_choices[Icon].text, m_folder);
     if (channel.id.isEmpty())
         problem(QStringLiteral("a channel without id is left out"));
     else
@@ -230,7 +215,7 @@ void XmltvParser::finishProgramme()
     programme.subTitle = m_choices[SubTitle].text;
     programme.description = m_choices[Description].text;
     programme.category = m_choices[Category].text;
-    programme.picture = iconUrl(m_choices[Icon].text);
+    programme.picture = pictureAddress(m_choices[Icon].text, m_folder);
     programme.clumpIndex = clumpIndex();
     const QStringView length = m_choices[Length].text;
     const qsizetype blank = length.indexOf(u' ');
@@ -268,18 +253,6 @@ int XmltvParser::languageRank(QStringView language) const
     if (candidate == m_language)
         return 2;
     return baseLanguage(candidate) == baseLanguage(m_language) ? 1 : 0;
-}
-
-QUrl XmltvParser::iconUrl(const QString &address) const
-{
-    if (address.isEmpty())
-        return {};
-    const QUrl url(address);
-    if (url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https"))
-        return url;
-    const QString path = url.isLocalFile() ? url.toLocalFile() : address;
-    const QFileInfo file(m_folder.isEmpty() || QFileInfo(path).isAbsolute() ? path : m_folder + u'/' + path);
-    return file.isFile() ? QUrl::fromLocalFile(file.absoluteFilePath()) : QUrl();
 }
 
 void XmltvParser::problem(const QString &text)

@@ -65,7 +65,6 @@ private:
     std::optional<qint64> timeAttribute(QStringView name, QStringView text);
     int clumpIndex() const;
     int languageRank(QStringView language) const;
-    QUrl iconUrl(const QString &address) const;
     void problem(const QString &text);
 
     GuideInput *m_input = nullptr;
