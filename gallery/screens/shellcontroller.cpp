@@ -55,13 +55,13 @@ void ShellController::start(const QString &screen)
     m_open = { homeScreen };
     m_home.start();
     m_guide.start();
+    Q_EMIT screenChanged();
     if (screen == detailScreen) {
         m_home.chooseFirstVideo();
         openItem();
     } else if (screen == guideScreen) {
         open(guideScreen);
     }
-    Q_EMIT screenChanged();
 }
 
 void ShellController::openItem()
