@@ -267,7 +267,9 @@ private Q_SLOTS:
         scene.fill();
         scene.row->setImageSource(HandPictures::url("picture"));
         scene.stage.renderFrame();
+        QTRY_COMPARE(scene.pictures.waiting("picture"), 1);
         scene.row.reset();
+        QVERIFY(scene.pictures.deliver("picture", fieldsPicture()));
         QCoreApplication::processEvents();
         scene.stage.renderFrame();
         QVERIFY(!scene.stage.wantsFrame());
