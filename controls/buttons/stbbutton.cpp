@@ -404,7 +404,7 @@ void StbButtonPrivate::relayout()
     if (q->implicitWidth() != layout.implicitWidth)
         q->setImplicitWidth(layout.implicitWidth);
     const double styleHeight = extent(style.size.top(), style.size.bottom());
-    if (q->height() < 1 && styleHeight > 0)
+    if (!(q->height() >= 1) && styleHeight > 0) // also when it is no number
         q->setImplicitHeight(styleHeight);
     q->update();
 }

@@ -13,8 +13,8 @@ class StbButtonPrivate;
     subtitle, or a throbber instead of all that while the button is busy. It paints itself; it has no child
     items. It handles no keys: who has the focus and what is checked is told from outside.
 
-    Every colour is one of four of the style: disabled, else checked, else focused, else normal. An icon takes
-    the colour with all its pixels but the black ones.
+    Every colour is one of four of the style: disabled, while the item or one that it lies in is not enabled,
+    else checked, else focused, else normal. An icon takes the colour with all its pixels but the black ones.
 
     A button of fixed width, which every one is until isFixedWidth is assigned, has the style's size unless it
     is given another. Its lines stand in the middle of the height and share the width between the icons: the
@@ -38,7 +38,8 @@ class StbButton : public QQuickItem
                        styleChanged)
     /*!
         The picture left of the texts: a file, or a resource as ":/..." or "qrc:/...". A leading "qrc" is taken
-        off and reads back without, so that assigning it again counts as a change. Empty by default.
+        off and reads back without, so that assigning it again counts as a change. One that cannot be read is no
+        icon. Empty by default.
     */
     Q_PROPERTY(QString leftIconSource READ leftIconSource WRITE setLeftIconSource NOTIFY leftIconSourceChanged)
     /*! The picture right of the texts; otherwise as leftIconSource. */
@@ -55,8 +56,9 @@ class StbButton : public QQuickItem
     /*! Kept for QML that sets it; it has no effect, and reads back the value of checked. */
     Q_PROPERTY(bool checkable READ isCheckable WRITE setCheckable NOTIFY checkableChanged)
     /*!
-        Whether the width is set from outside, and the texts have to fit in, or the implicit width follows the
-        content. Reads true until it is assigned; the first assignment always counts as a change.
+        Whether the width is set from outside, and the texts are wrapped and elided to fit in, or the implicit
+        width follows the content. Reads true until it is assigned; the first assignment always counts as a
+        change. A button that becomes fixed keeps the width that it has.
     */
     Q_PROPERTY(bool isFixedWidth READ isFixedWidth WRITE setIsFixedWidth NOTIFY fixedWidthChanged)
     /*!

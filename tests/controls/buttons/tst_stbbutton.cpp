@@ -13,7 +13,7 @@
 using Scene = ButtonScene<StbButton>;
 using StyleObject = design_system::ButtonQmlStyle;
 
-// What the properties mean: values, signals, sizes, and when texts are laid out.
+// What the properties mean: values, signals, and when texts are laid out.
 class tst_StbButton : public stbtest::TestCase
 {
     Q_OBJECT
@@ -77,6 +77,36 @@ private Q_SLOTS:
         QCOMPARE(scene.button.property(property), value);
         QVERIFY(scene.button.setProperty(property, value));
         QCOMPARE(emitted(spies), QByteArrayList { signal });
+    }
+
+    // Who listens finds the new value, and the size that it has before it follows.
+    void aSignalComesBetweenTheNewValueAndItsEffect()
+    {
+        Scene scene;
+        scene.button.setIsFixedWidth(false);
+        scene.fill();
+        const double width = scene.button.width();
+        QList<std::pair<QVariant, double>> heard;
+        const auto listen = [&](const char *property, auto signal) {
+            connect(&scene.button, signal, this, [&heard, &scene, property] {
+                heard.emplaceBack(scene.button.property(property), scene.button.width());
+            });
+        };
+        listen("titleText", &StbButton::titleChanged);
+        listen("leftPadding", &StbButton::leftPaddingChanged);
+        listen("rightIconSource", &StbButton::rightIconSourceChanged);
+        scene.button.setLeftPadding(119);
+        scene.button.setLeftPadding(19);
+        scene.button.setRightIconSource("qrc:/icons/other.png");
+        scene.button.setRightIconSource("qrc:/icons/right.png");
+        scene.button.setTitleText("Watch now, from the very beginning to the end");
+        QCOMPARE(heard.size(), 5);
+        QCOMPARE(heard[0], std::pair(QVariant(119.), width));
+        QCOMPARE(heard[1], std::pair(QVariant(19.), width + 100));
+        QCOMPARE(heard[2], std::pair(QVariant(":/icons/other.png"), width));
+        QCOMPARE(heard[3], std::pair(QVariant(":/icons/right.png"), width - 27 + 15));
+        QCOMPARE(heard[4], std::pair(QVariant(scene.button.titleText()), width));
+        QVERIFY(scene.button.width() > width);
     }
 
     void theStyleIsStoredSignalledAndResettable()
@@ -197,105 +227,6 @@ private Q_SLOTS:
         scene.button.setIsFixedWidth(false);
         QCOMPARE(changed.count(), 2);
         QVERIFY(!scene.button.isFixedWidth());
-    }
-
-    void aFixedButtonHasTheStylesSize()
-    {
-        Scene scene;
-        scene.button.setStyle(&scene.style);
-        QCOMPARE(scene.button.implicitWidth(), 313);
-        QCOMPARE(scene.button.implicitHeight(), 0); // without content
-        scene.button.setTitleText("Watch");
-        QCOMPARE(scene.button.size(), QSizeF(313, 87));
-    }
-
-    void anIconAloneGivesTheHeightToo()
-    {
-        Scene scene;
-        scene.button.setStyle(&scene.style);
-        scene.button.setRightIconSource(":/icons/no such file.png"); // tried is enough
-        QCOMPARE(scene.button.height(), 87);
-    }
-
-    void aStyleWithoutSizeGivesNone()
-    {
-        Scene scene;
-        design_system::QmlButtonStyle style = oddButtonStyle();
-        style.size = QRect();
-        scene.style.setStyle(style);
-        scene.fill();
-        QCOMPARE(scene.button.implicitWidth(), 0);
-        QCOMPARE(scene.button.implicitHeight(), 0);
-    }
-
-    void aGivenWidthBecomesTheImplicitOne()
-    {
-        Scene scene;
-        scene.button.setWidth(211.9);
-        scene.fill();
-        QCOMPARE(scene.button.implicitWidth(), 211);
-        QCOMPARE(scene.button.width(), 211.9);
-        scene.button.setWidth(307);
-        QCOMPARE(scene.button.implicitWidth(), 307);
-    }
-
-    void aHeightStaysWhenAnotherStyleComes()
-    {
-        Scene scene;
-        scene.fill();
-        StyleObject other;
-        other.setStyle(otherButtonStyle());
-        scene.button.setStyle(&other);
-        QCOMPARE(scene.button.implicitWidth(), 251);
-        QCOMPARE(scene.button.height(), 87);
-    }
-
-    void aButtonThatIsNotFixedGrowsWithItsContent()
-    {
-        Scene scene;
-        scene.button.setIsFixedWidth(false);
-        scene.fill();
-        scene.button.setSubtitleText({});
-        const int title = textSize(oddButtonStyle().titleStyle, "Watch now").width();
-        const int subtitle = textSize(oddButtonStyle().subtitleStyle, "From the start").width();
-        const int between = 19 + 21 + 13 + 7 + 11 + 13 + 27 + 23;
-        // The room of a line that became empty stays.
-        QCOMPARE(scene.button.width(), between + qMax(title, subtitle));
-        const QString longText = "Watch now, from the very beginning to the end";
-        scene.button.setTitleText(longText);
-        const int longTitle = textSize(oddButtonStyle().titleStyle, longText).width();
-        QVERIFY(longTitle > 313);
-        QCOMPARE(scene.button.width(), between + longTitle);
-        scene.button.setLeftPadding(41);
-        QCOMPARE(scene.button.width(), between + longTitle - 19 + 41);
-        scene.button.setRightPadding(61);
-        QCOMPARE(scene.button.width(), between + longTitle - 19 + 41 - 23 + 61);
-    }
-
-    void aButtonThatIsNotFixedAnyMoreShowsItsWholeText()
-    {
-        Scene scene;
-        scene.button.setStyle(&scene.style);
-        const QString text = "Watch now, from the very beginning to the end";
-        scene.button.setTitleText(text);
-        QCOMPARE(scene.button.width(), 313);
-        scene.button.setIsFixedWidth(false);
-        const int title = textSize(oddButtonStyle().titleStyle, text).width();
-        QCOMPARE(scene.button.width(), 19 + 7 + title + 11 + 23);
-        scene.stage.renderFrame();
-        QCOMPARE(scene.children().first().rect.width(), title);
-    }
-
-    void aFixedButtonShortensItsTextToTheColumn()
-    {
-        Scene scene;
-        scene.fill();
-        const QString text = "Watch now, from the very beginning to the end";
-        scene.button.setTitleText(text);
-        scene.stage.renderFrame();
-        const QSize shortened = textSize(oddButtonStyle().titleStyle, text, 221);
-        QVERIFY(shortened.width() <= 221);
-        QCOMPARE(scene.children()[1].rect.size().toSize(), shortened);
     }
 
     void aTextIsLaidOutOncePerTextFontAndWidth()
