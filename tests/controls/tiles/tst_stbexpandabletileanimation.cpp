@@ -2,6 +2,9 @@
 #include "testkit/testcase.h"
 #include "tilescene.h"
 
+#include <design_system/qmldesignsystem.h>
+#include <scenegraph/nodehelpers.h>
+
 #include <QtCore/qregularexpression.h>
 #include <QtCore/qtemporaryfile.h>
 #include <QtQml/qqmlparserstatus.h>
@@ -394,6 +397,20 @@ private Q_SLOTS:
         QCOMPARE(scene.fading().state(), QTimeLine::NotRunning);
         scene.stage.renderFrame();
         QCOMPARE(scene.types(), (QStringList { "Image", "InternalRectangle" }));
+    }
+
+    // No theme file says so, but an application may.
+    void durationsBelowZeroAreNone()
+    {
+        FadingScene scene; // its engine has a design system from here on
+        design_system::Animation *animation = qml_basic_plugin::designSystem(scene.tile.get())->animation();
+        QVERIFY(animation->setProperty("duration", -57));
+        QVERIFY(animation->setProperty("fadeDuration", -59));
+        scene.make("ExpandableTile");
+        QCOMPARE(scene.focusing().duration(), 1);
+        QVERIFY(scene.show(fieldsPicture()));
+        QCOMPARE(scene.opacity(), 1.0);
+        QCOMPARE(scene.fading().state(), QTimeLine::NotRunning);
     }
 
     void aTileMayGoWhileItsAnimationsRun()
