@@ -67,6 +67,23 @@ PictureDifference comparePictures(const QImage &actual, const QImage &expected, 
     return result;
 }
 
+bool isPaintedIn(const QPixmap &pixmap, const QColor &color)
+{
+    const QImage image = pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
+    bool opaque = false;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            if (qAlpha(pixel) < 255)
+                continue;
+            opaque = true;
+            if (pixel != color.rgb())
+                return false;
+        }
+    }
+    return opaque;
+}
+
 QString savePicture(const QImage &picture, const QString &name)
 {
     const QString folder = QCoreApplication::applicationDirPath() + QStringLiteral("/pictures");

@@ -6,7 +6,9 @@
 
 #include <QtCore/qrect.h>
 #include <QtCore/qstring.h>
+#include <QtGui/qcolor.h>
 #include <QtGui/qimage.h>
+#include <QtGui/qpixmap.h>
 
 namespace stbtest {
 
@@ -32,6 +34,12 @@ struct PictureDifference
 
 /*! Compares premultiplied colours, channel by channel, alpha included. */
 PictureDifference comparePictures(const QImage &actual, const QImage &expected, int tolerableChannel = 0);
+
+/*!
+    Whether the opaque pixels of \a pixmap, of which there are some, all have this colour: so they do in a text or
+    a tinted icon, whatever its edges are.
+*/
+bool isPaintedIn(const QPixmap &pixmap, const QColor &color);
 
 /*! Saves \a picture as PNG under \a name beside the test program and returns the file's path. */
 QString savePicture(const QImage &picture, const QString &name);

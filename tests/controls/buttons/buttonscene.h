@@ -4,6 +4,7 @@
 
 #include "buttonstyles.h"
 #include "testkit/nodes.h"
+#include "testkit/pictures.h"
 #include "testkit/stage.h"
 
 #include <QtQml/qqmlparserstatus.h>
@@ -44,23 +45,5 @@ struct ButtonScene
     design_system::ButtonQmlStyle style;
     Button button;
 };
-
-/*! Whether the opaque pixels of \a pixmap, of which there are some, all have this colour. */
-inline bool isPaintedIn(const QPixmap &pixmap, const QColor &color)
-{
-    const QImage image = pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
-    int opaque = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            const QRgb pixel = image.pixel(x, y);
-            if (qAlpha(pixel) < 255)
-                continue;
-            ++opaque;
-            if (pixel != color.rgb())
-                return false;
-        }
-    }
-    return opaque > 0;
-}
 
 #endif // STBTEST_BUTTONSCENE_H

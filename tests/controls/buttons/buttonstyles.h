@@ -2,8 +2,9 @@
 #ifndef STBTEST_BUTTONSTYLES_H
 #define STBTEST_BUTTONSTYLES_H
 
+#include "testkit/texts.h"
+
 #include <design_system/buttonstyle.h>
-#include <stbcore/textrenderer.h>
 
 #include <limits>
 
@@ -83,14 +84,7 @@ inline design_system::QmlButtonStyle otherButtonStyle()
 inline QSize textSize(const design_system::TextStyle &style, const QString &text,
                       int width = std::numeric_limits<int>::max())
 {
-    stbcore::TextRenderer renderer;
-    renderer.setTextFont(style.font);
-    renderer.setMaxLineCount(style.maxLineCount);
-    renderer.setTextAlignment(style.alignment);
-    renderer.setMaxTextWidth(width);
-    renderer.setText(text);
-    renderer.relayout();
-    return renderer.boundingRect().size();
+    return stbtest::textExtent(style, text, width).size();
 }
 
 #endif // STBTEST_BUTTONSTYLES_H

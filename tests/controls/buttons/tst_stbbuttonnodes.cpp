@@ -85,10 +85,10 @@ private Q_SLOTS:
         const design_system::QmlButtonStyle style = oddButtonStyle();
         QCOMPARE(scene.root().color, color(style.backgroundColors));
         const QList<NodeInfo> nodes = scene.children();
-        QVERIFY(isPaintedIn(nodes[0].pixmap, color(style.leftIconColors)));
-        QVERIFY(isPaintedIn(nodes[1].pixmap, color(style.titleStyle.colors)));
-        QVERIFY(isPaintedIn(nodes[2].pixmap, color(style.subtitleStyle.colors)));
-        QVERIFY(isPaintedIn(nodes[3].pixmap, color(style.rightIconColors)));
+        QVERIFY(stbtest::isPaintedIn(nodes[0].pixmap, color(style.leftIconColors)));
+        QVERIFY(stbtest::isPaintedIn(nodes[1].pixmap, color(style.titleStyle.colors)));
+        QVERIFY(stbtest::isPaintedIn(nodes[2].pixmap, color(style.subtitleStyle.colors)));
+        QVERIFY(stbtest::isPaintedIn(nodes[3].pixmap, color(style.rightIconColors)));
     }
 
     void aDisabledParentDisablesTheButton()
@@ -125,15 +125,15 @@ private Q_SLOTS:
         scene.fill();
         scene.button.setTitleForcedColor(QColor(255, 0, 255));
         scene.stage.renderFrame();
-        QVERIFY(isPaintedIn(scene.children()[1].pixmap, QColor(251, 252, 253)));
+        QVERIFY(stbtest::isPaintedIn(scene.children()[1].pixmap, QColor(251, 252, 253)));
         scene.button.setForceTitleColor(true);
         for (int states = 0; states < 8; ++states) {
             scene.button.setEnabled(states & 1);
             scene.button.setChecked(states & 2);
             scene.button.setFocused(states & 4);
             scene.stage.renderFrame();
-            QVERIFY(isPaintedIn(scene.children()[1].pixmap, QColor(255, 0, 255)));
-            QVERIFY(!isPaintedIn(scene.children()[2].pixmap, QColor(255, 0, 255)));
+            QVERIFY(stbtest::isPaintedIn(scene.children()[1].pixmap, QColor(255, 0, 255)));
+            QVERIFY(!stbtest::isPaintedIn(scene.children()[2].pixmap, QColor(255, 0, 255)));
         }
     }
 
@@ -143,7 +143,7 @@ private Q_SLOTS:
         scene.fill();
         scene.button.setForceTitleColor(true);
         scene.stage.renderFrame();
-        QVERIFY(isPaintedIn(scene.children()[1].pixmap, QColor(251, 252, 253)));
+        QVERIFY(stbtest::isPaintedIn(scene.children()[1].pixmap, QColor(251, 252, 253)));
     }
 
     void anEmptiedOnlyTitleDisappears()
@@ -212,7 +212,7 @@ private Q_SLOTS:
             const NodeInfo icon = scene.children().first();
             QCOMPARE(icon.rect, QRectF(156 - 7, 43 - 5, 15, 11));
             QCOMPARE(icon.pixmap.size(), QSize(15, 11));
-            QVERIFY(isPaintedIn(icon.pixmap, Qt::black));
+            QVERIFY(stbtest::isPaintedIn(icon.pixmap, Qt::black));
         }
     }
 

@@ -66,12 +66,7 @@ inline QImage textPicture(const design_system::TextStyle &style, const QString &
                           const QColor &color)
 {
     stbcore::TextRenderer renderer;
-    renderer.setTextFont(style.font);
-    renderer.setMaxLineCount(style.maxLineCount);
-    renderer.setTextAlignment(style.alignment);
-    renderer.setMaxTextWidth(width);
-    renderer.setText(text);
-    renderer.relayout();
+    stbtest::layOutText(renderer, style, text, width);
     QImage image(renderer.boundingRect().size(), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);

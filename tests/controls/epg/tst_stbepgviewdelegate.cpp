@@ -6,6 +6,7 @@
 #include "testkit/qmlscene.h"
 #include "testkit/stage.h"
 #include "testkit/testcase.h"
+#include "testkit/texts.h"
 
 #include <controls/epg/stbepgviewdelegate.h>
 #include <controls/epg/stbepgviewdelegate_p.h>
@@ -20,36 +21,6 @@ using stbtest::NodeInfo;
 using stbtest::Stage;
 
 namespace {
-
-QRect extent(const design_system::TextStyle &style, const QString &text, int width)
-{
-    stbcore::TextRenderer renderer;
-    renderer.setTextFont(style.font);
-    renderer.setMaxLineCount(style.maxLineCount);
-    renderer.setTextAlignment(style.alignment);
-    renderer.setMaxTextWidth(width);
-    renderer.setText(text);
-    renderer.relayout();
-    return renderer.boundingRect();
-}
-
-// The only colour of a painted text: every pixel is that colour, more or less opaque.
-bool isPaintedIn(const QPixmap &pixmap, const QColor &color)
-{
-    const QImage image = pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
-    int opaque = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            const QRgb pixel = image.pixel(x, y);
-            if (qAlpha(pixel) < 255)
-                continue;
-            ++opaque;
-            if (pixel != color.rgb())
-                return false;
-        }
-    }
-    return opaque > 0;
-}
 
 // A stage with one row on a coloured ground.
 struct Scene
@@ -184,8 +155,8 @@ private Q_SLOTS:
         Scene scene;
         scene.fill();
         const Style style = oddEpgStyle();
-        const int title = extent(style.titleTextStyle, "Evening news", 417).height();
-        const int subtitle = extent(style.subtitleTextStyle, "With the weather", 417).height();
+        const int title = stbtest::textExtent(style.titleTextStyle, "Evening news", 417).height();
+        const int subtitle = stbtest::textExtent(style.subtitleTextStyle, "With the weather", 417).height();
         QCOMPARE(scene.row.height(), (title - 1) + 7 + (subtitle - 1));
     }
 
@@ -196,9 +167,9 @@ private Q_SLOTS:
         const QString text = "The long evening news of this and of the other day";
         scene.row.setTitle(text);
         scene.stage.renderFrame();
-        const QRect expected = extent(oddEpgStyle().titleTextStyle, text, 417);
+        const QRect expected = stbtest::textExtent(oddEpgStyle().titleTextStyle, text, 417);
         QCOMPARE(scene.children()[1].rect, QRectF(131, 0, expected.width(), expected.height()));
-        QVERIFY(expected.height() > extent(oddEpgStyle().titleTextStyle, "x", 417).height());
+        QVERIFY(expected.height() > stbtest::textExtent(oddEpgStyle().titleTextStyle, "x", 417).height());
     }
 
     void theStartTimeIsBoundedByItsOwnRectangle()
@@ -207,7 +178,8 @@ private Q_SLOTS:
         scene.fill();
         scene.row.setStartTimeText("20:05 in the evening");
         scene.stage.renderFrame();
-        const QRect expected = extent(oddEpgStyle().startTimeTextStyle, "20:05 in the evening", 113);
+        const QRect expected = stbtest::textExtent(oddEpgStyle().startTimeTextStyle, "20:05 in the evening",
+                                                   113);
         QVERIFY(expected.width() <= 113);
         QCOMPARE(scene.children()[0].rect, QRectF(expected));
     }
@@ -237,7 +209,7 @@ private Q_SLOTS:
         QCOMPARE(live[3].color, QColor(171, 11, 31));
         const QList<NodeInfo> badge = stbtest::childNodes(live[3].node);
         QCOMPARE(badge.size(), 2);
-        QVERIFY(isPaintedIn(badge[0].pixmap, QColor(251, 241, 231))); // the label lies below the icon
+        QVERIFY(stbtest::isPaintedIn(badge[0].pixmap, QColor(251, 241, 231))); // the label lies below the icon
         QCOMPARE(badge[1].pixmap.size(), QSize(15, 13));
     }
 
@@ -249,7 +221,7 @@ private Q_SLOTS:
         const qreal plainHeight = scene.row.height();
         scene.row.setLive(true);
         scene.stage.renderFrame();
-        const QRect label = extent(oddEpgStyle().liveTextStyle, "LIVE", 417);
+        const QRect label = stbtest::textExtent(oddEpgStyle().liveTextStyle, "LIVE", 417);
         const QSize icon(15, 13); // of the test's own resource
         const int badgeHeight = 10 + qMax(label.height(), icon.height());
         const QList<NodeInfo> live = scene.children();
@@ -289,9 +261,9 @@ private Q_SLOTS:
         scene.row.setPlayable(playable);
         scene.stage.renderFrame();
         const QList<NodeInfo> nodes = scene.children();
-        QVERIFY(isPaintedIn(nodes[0].pixmap, startTime));
-        QVERIFY(isPaintedIn(nodes[1].pixmap, title));
-        QVERIFY(isPaintedIn(nodes[2].pixmap, QColor(91, 191, 111)));
+        QVERIFY(stbtest::isPaintedIn(nodes[0].pixmap, startTime));
+        QVERIFY(stbtest::isPaintedIn(nodes[1].pixmap, title));
+        QVERIFY(stbtest::isPaintedIn(nodes[2].pixmap, QColor(91, 191, 111)));
     }
 
     void anEmptyTitleGivesItsPlaceToTheSubtitle()
@@ -300,7 +272,7 @@ private Q_SLOTS:
         scene.fill();
         scene.row.setTitle(QString());
         scene.stage.renderFrame();
-        const QRect subtitle = extent(oddEpgStyle().subtitleTextStyle, "With the weather", 417);
+        const QRect subtitle = stbtest::textExtent(oddEpgStyle().subtitleTextStyle, "With the weather", 417);
         QCOMPARE(scene.children()[2].rect, QRectF(131, 0, subtitle.width(), subtitle.height()));
         QVERIFY(scene.children()[1].rect.isEmpty());
     }
@@ -452,7 +424,8 @@ private Q_SLOTS:
         row->setStyle(&style);
         QCOMPARE(row->height(), 0);
         item->setWidth(300);
-        QCOMPARE(row->height(), extent(oddEpgStyle().titleTextStyle, "Evening news", 417).height() - 1);
+        QCOMPARE(row->height(),
+                 stbtest::textExtent(oddEpgStyle().titleTextStyle, "Evening news", 417).height() - 1);
     }
 
     void aWidthOfZeroDropsThePictureAndAWidthBringsItBack()

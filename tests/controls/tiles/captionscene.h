@@ -4,12 +4,13 @@
 
 #include "testkit/fakeplatform.h"
 #include "testkit/nodes.h"
+#include "testkit/pictures.h"
 #include "testkit/qmlscene.h"
 #include "testkit/stage.h"
+#include "testkit/texts.h"
 #include "tilestyles.h"
 
 #include <controls/tiles/stbexpandabletile_p.h>
-#include <stbcore/textrenderer.h>
 
 #include <QtGui/qcolor.h>
 
@@ -64,37 +65,6 @@ inline void holdFocusAnimation(StbExpandableTile *tile, double progress)
     tile->setState(QStringLiteral("focused"));
     d->m_focusTimeLine.setPaused(true);
     d->m_focusTimeLine.setCurrentTime(qRound(1000 * progress));
-}
-
-/*! The extent that \a text takes in \a style and \a width. */
-inline QRect captionExtent(const design_system::TextStyle &style, const QString &text, int width)
-{
-    stbcore::TextRenderer renderer;
-    renderer.setTextFont(style.font);
-    renderer.setMaxLineCount(style.maxLineCount);
-    renderer.setTextAlignment(style.alignment);
-    renderer.setMaxTextWidth(width);
-    renderer.setText(text);
-    renderer.relayout();
-    return renderer.boundingRect();
-}
-
-/*! Whether every opaque pixel is of this colour, and there is one. */
-inline bool isPaintedIn(const QPixmap &pixmap, const QColor &color)
-{
-    const QImage image = pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
-    int opaque = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            const QRgb pixel = image.pixel(x, y);
-            if (qAlpha(pixel) < 255)
-                continue;
-            ++opaque;
-            if (pixel != color.rgb())
-                return false;
-        }
-    }
-    return opaque > 0;
 }
 
 /*! Where \a node lies in the stage of a scene. */

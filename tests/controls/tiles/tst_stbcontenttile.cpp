@@ -134,7 +134,7 @@ private Q_SLOTS:
         scene.tile.setFavorite(true);
         QVERIFY(scene.d()->m_favoriteIcon.isLoaded());
         QCOMPARE(scene.d()->m_favoriteIcon.source(), ":/resources/icons/favorite_small.png");
-        QVERIFY(isPaintedIn(scene.d()->m_favoriteIcon.pixmap(), QColor(239, 67, 71)));
+        QVERIFY(stbtest::isPaintedIn(scene.d()->m_favoriteIcon.pixmap(), QColor(239, 67, 71)));
     }
 
     void aFavouriteWithoutAStyleReadsTheIconWhenTheStyleArrives()
@@ -176,7 +176,7 @@ private Q_SLOTS:
         design_system::TileQmlStyle other;
         other.setStyle(otherTileStyle());
         scene.tile.setStyle(&other);
-        QVERIFY(isPaintedIn(scene.d()->m_favoriteIcon.pixmap(), QColor(239, 67, 71)));
+        QVERIFY(stbtest::isPaintedIn(scene.d()->m_favoriteIcon.pixmap(), QColor(239, 67, 71)));
     }
 
     void aTileThatIsNoFavouriteAnyMoreKeepsTheIconReady()

@@ -30,7 +30,7 @@ struct Scene : CaptionScene<StbContentTile>
 
 QRect titleExtent()
 {
-    return captionExtent(oddTileStyle().titleStyle, "Rivers", tileWidth);
+    return stbtest::textExtent(oddTileStyle().titleStyle, "Rivers", tileWidth);
 }
 
 } // namespace
@@ -74,9 +74,9 @@ private Q_SLOTS:
         const QList<NodeInfo> nodes = scene.nodes();
         QCOMPARE(nodes.size(), 4);
         QCOMPARE(nodes[0].pixmap.size(), iconSize);
-        QVERIFY(isPaintedIn(nodes[1].pixmap, QColor(19, 21, 23)));
-        QVERIFY(isPaintedIn(nodes[2].pixmap, QColor(91, 103, 107)));
-        QVERIFY(isPaintedIn(nodes[3].pixmap, QColor(1, 131, 61)));
+        QVERIFY(stbtest::isPaintedIn(nodes[1].pixmap, QColor(19, 21, 23)));
+        QVERIFY(stbtest::isPaintedIn(nodes[2].pixmap, QColor(91, 103, 107)));
+        QVERIFY(stbtest::isPaintedIn(nodes[3].pixmap, QColor(1, 131, 61)));
     }
 
     void aLateFrameGoesBeforeTheCaption()
@@ -110,8 +110,8 @@ private Q_SLOTS:
         const QList<NodeInfo> nodes = scene.nodes();
         QCOMPARE(nodes.size(), 3);
         const QRect title = titleExtent();
-        const QRect subtitle = captionExtent(oddTileStyle().subtitleStyle, "Part three", tileWidth);
-        const QRect status = captionExtent(oddTileStyle().statusStyle, "New", tileWidth);
+        const QRect subtitle = stbtest::textExtent(oddTileStyle().subtitleStyle, "Part three", tileWidth);
+        const QRect status = stbtest::textExtent(oddTileStyle().statusStyle, "New", tileWidth);
         int y = firstLine;
         QCOMPARE(nodes[0].rect, QRectF(-1, y, title.width(), title.height())); // one pixel left, on purpose
         y += title.height() + spacing;
@@ -178,17 +178,17 @@ private Q_SLOTS:
         scene.tile.setStatus(text);
         scene.stage.renderFrame();
         const TileStyle style = oddTileStyle();
-        QCOMPARE(scene.nodes()[0].rect.size(), captionExtent(style.titleStyle, text, tileWidth).size());
+        QCOMPARE(scene.nodes()[0].rect.size(), stbtest::textExtent(style.titleStyle, text, tileWidth).size());
         scene.tile.setFavorite(true);
         scene.stage.renderFrame();
         const QList<NodeInfo> nodes = scene.nodes();
         QCOMPARE(nodes[1].rect.size(),
-                 captionExtent(style.titleStyle, text, tileWidth - iconSize.width() - spacing).size());
-        QCOMPARE(nodes[2].rect.size(), captionExtent(style.subtitleStyle, text, tileWidth).size());
-        QCOMPARE(nodes[3].rect.size(), captionExtent(style.statusStyle, text, tileWidth).size());
+                 stbtest::textExtent(style.titleStyle, text, tileWidth - iconSize.width() - spacing).size());
+        QCOMPARE(nodes[2].rect.size(), stbtest::textExtent(style.subtitleStyle, text, tileWidth).size());
+        QCOMPARE(nodes[3].rect.size(), stbtest::textExtent(style.statusStyle, text, tileWidth).size());
         scene.tile.setFavorite(false);
         scene.stage.renderFrame();
-        QCOMPARE(scene.nodes()[0].rect.size(), captionExtent(style.titleStyle, text, tileWidth).size());
+        QCOMPARE(scene.nodes()[0].rect.size(), stbtest::textExtent(style.titleStyle, text, tileWidth).size());
     }
 
     void aTitleWithoutAnyRoomShowsNothingAndLeavesNoHole()

@@ -43,7 +43,7 @@ QList<QColor> colorsOf(const QList<NodeInfo> &nodes)
 
 QRect ratingExtent(const QString &text)
 {
-    return captionExtent(oddTileStyle().ratingStyle, text, 201);
+    return stbtest::textExtent(oddTileStyle().ratingStyle, text, 201);
 }
 
 } // namespace
@@ -149,7 +149,7 @@ private Q_SLOTS:
         const QList<NodeInfo> inside = stbtest::childNodes(nodes[0].node);
         QCOMPARE(inside.size(), 1);
         QCOMPARE(inside[0].rect, QRectF(9 + 5, 11 + 13, text.width(), text.height()));
-        QVERIFY(isPaintedIn(inside[0].pixmap, QColor(251, 253, 247)));
+        QVERIFY(stbtest::isPaintedIn(inside[0].pixmap, QColor(251, 253, 247)));
     }
 
     void theBadgeGrowsWithItsText()
@@ -305,10 +305,10 @@ private Q_SLOTS:
         QCOMPARE(marks.size(), 3);
         scene.tile.setStatus("New");
         QList<NodeInfo> nodes = scene.painted();
-        QVERIFY(isPaintedIn(nodes[0].pixmap, QColor(1, 131, 61)));
+        QVERIFY(stbtest::isPaintedIn(nodes[0].pixmap, QColor(1, 131, 61)));
         scene.tile.setTitle("Rivers");
         nodes = scene.painted();
-        QVERIFY(isPaintedIn(nodes[0].pixmap, QColor(19, 21, 23)));
+        QVERIFY(stbtest::isPaintedIn(nodes[0].pixmap, QColor(19, 21, 23)));
         scene.tile.setFavorite(true);
         scene.tile.setSubtitle("Part three");
         nodes = scene.painted();

@@ -122,7 +122,7 @@ private Q_SLOTS:
         }
         const QList<NodeInfo> nodes = scene.painted();
         QCOMPARE(nodes.size(), 5);
-        QVERIFY(isPaintedIn(nodes[0].pixmap, oddTileStyle().statusColor));
+        QVERIFY(stbtest::isPaintedIn(nodes[0].pixmap, oddTileStyle().statusColor));
         QCOMPARE(nodes[1].pixmap.size(), logoSize);
         QCOMPARE(nodes[2].color, oddTileStyle().ratingBadgeColor);
         QCOMPARE(nodes[3].color, oddTileStyle().progressTrackColor);
