@@ -313,12 +313,12 @@ void StbButtonPrivate::watchWindow()
     runThrobber();
 }
 
-// The animation runs only where it is seen. A window with a render control is never shown itself: somebody else
-// shows what it paints.
+// The animation runs only where it is seen: a button without a style or a size paints nothing. A window with a
+// render control is never shown itself: somebody else shows what it paints.
 void StbButtonPrivate::runThrobber()
 {
     Q_Q(StbButton);
-    const bool seen = window && q->isVisible()
+    const bool seen = window && m_style && q->isVisible() && q->width() > 0 && q->height() > 0
                       && (window->isVisible() || QQuickWindowPrivate::get(window)->renderControl);
     m_throbber->renderer().setRunning(m_throbberVisible && seen);
 }
@@ -365,19 +365,11 @@ void StbButtonPrivate::layOutTexts(int maxWidth)
     }
 }
 
-void StbButtonPrivate::relayout()
+StbButtonLayout::Content StbButtonPrivate::measureContent(const Style &style)
 {
     Q_Q(StbButton);
     const bool hasTitle = !m_title.text().isEmpty();
     const bool hasSubtitle = !m_subtitle.text().isEmpty();
-    const bool hasIcon = m_leftIcon.isLoadAttempted() || m_rightIcon.isLoadAttempted();
-    if (!m_style || !(hasTitle || hasSubtitle || hasIcon)) {
-        m_leftIconRect = QRect();
-        m_rightIconRect = QRect();
-        q->update(); // what is painted may have to go
-        return;
-    }
-    const Style style = m_style->style();
     StbButtonLayout::Content content;
     content.fixed = isFixedSize();
     content.width = wholePixels(q->width() > 0 ? q->width() : q->implicitWidth());
@@ -392,13 +384,29 @@ void StbButtonPrivate::relayout()
         layOutTexts(content.fixed ? StbButtonLayout::textWidth(style, content) : unlimitedWidth);
     content.title = hasTitle ? m_title.boundingRect().size() : m_titleRect.size();
     content.subtitle = hasSubtitle ? m_subtitle.boundingRect().size() : m_subtitleRect.size();
+    return content;
+}
 
+void StbButtonPrivate::relayout()
+{
+    Q_Q(StbButton);
+    if (m_throbber)
+        runThrobber(); // style and size decide whether it is seen
+    const bool hasText = !m_title.text().isEmpty() || !m_subtitle.text().isEmpty();
+    if (!m_style || !(hasText || m_leftIcon.isLoadAttempted() || m_rightIcon.isLoadAttempted())) {
+        m_leftIconRect = QRect();
+        m_rightIconRect = QRect();
+        q->update(); // what is painted may have to go
+        return;
+    }
+    const Style style = m_style->style();
+    const StbButtonLayout::Content content = measureContent(style);
     const StbButtonLayout layout = StbButtonLayout::compute(style, content);
     m_leftIconRect = layout.leftIcon;
     m_rightIconRect = layout.rightIcon;
-    if (hasTitle)
+    if (content.hasTitle)
         m_titleRect = layout.title;
-    if (hasSubtitle)
+    if (content.hasSubtitle)
         m_subtitleRect = layout.subtitle;
     // Each may come back here, when the item has no size of its own.
     if (q->implicitWidth() != layout.implicitWidth)

@@ -3,6 +3,7 @@
 #define STBUI_STBBUTTON_P_H
 
 #include "controls/buttons/stbbutton.h"
+#include "controls/buttons/stbbuttonlayout.h"
 #include "controls/stylereference.h"
 #include "scenegraph/iconnodebuilder.h"
 #include "scenegraph/textnodebuilder.h"
@@ -44,6 +45,8 @@ public:
 
     bool setIconSource(qml_basic_plugin::IconNodeBuilder &icon, const QString &source,
                        void (StbButton::*changed)());
+    /*! What the layout goes by; lays the texts out. */
+    StbButtonLayout::Content measureContent(const Style &style);
     void layOutTexts(int maxWidth);
     void createThrobber();
     void watchWindow();

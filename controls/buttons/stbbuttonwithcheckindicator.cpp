@@ -30,7 +30,9 @@ void StbButtonWithCheckIndicatorPrivate::updateExtendedNodes(const Style &style,
                                                        });
     if (!indicator)
         return;
-    const QRectF size(style.checkIndicatorSize);
-    const double top = wholePixels(height.value()) - size.height() - style.checkIndicatorBottomMargin;
-    setNodeRect(indicator, QRectF(style.checkIndicatorLeft, top, size.width(), size.height()));
+    const QRect &size = style.checkIndicatorSize;
+    const double markWidth = double(size.right()) - size.left() + 1; // corners are any an int can be
+    const double markHeight = double(size.bottom()) - size.top() + 1;
+    const double top = wholePixels(height.value()) - markHeight - style.checkIndicatorBottomMargin;
+    setNodeRect(indicator, QRectF(style.checkIndicatorLeft, top, markWidth, markHeight));
 }

@@ -210,6 +210,25 @@ private Q_SLOTS:
         scene.button.setParentItem(nullptr);
     }
 
+    void inAButtonThatPaintsNothingNothingRuns()
+    {
+        Scene scene;
+        scene.showBusy();
+        QVERIFY(scene.renderer().isRunning());
+        scene.button.setWidth(0);
+        QVERIFY(!scene.renderer().isRunning());
+        scene.button.setWidth(313);
+        QVERIFY(scene.renderer().isRunning());
+        scene.button.setHeight(0);
+        QVERIFY(!scene.renderer().isRunning());
+        scene.button.setHeight(87);
+        QVERIFY(scene.renderer().isRunning());
+        scene.button.resetStyle();
+        QVERIFY(!scene.renderer().isRunning());
+        scene.button.setStyle(&scene.style);
+        QVERIFY(scene.renderer().isRunning());
+    }
+
     void aFrameThatComesWhileTheButtonIsInvisibleIsIgnored()
     {
         Scene scene;
