@@ -266,6 +266,24 @@ private Q_SLOTS:
         QCOMPARE(changed.count(), 2);
     }
 
+    void aBindingInQmlFollowsItsSourceUntilAValueIsWritten()
+    {
+        Scene scene;
+        const auto tile = scene.qml.createItem<StbExpandableTile>(
+                "import QtQuick\nimport Stbui.UI.Qml.Controls.Basic\n"
+                "ExpandableTile { property int edge: 3; customFocusRect: Qt.rect(edge, 5, 7, 9)\n"
+                "                 property int end: customFocusRect.x + customFocusRect.width }");
+        QVERIFY(tile);
+        QCOMPARE(tile->customFocusRect(), QRect(3, 5, 7, 9));
+        tile->setProperty("edge", 11);
+        QCOMPARE(tile->customFocusRect(), QRect(11, 5, 7, 9));
+        QCOMPARE(tile->property("end"), 18);
+        tile->setCustomFocusRect(QRect(1, 1, 1, 1));
+        tile->setProperty("edge", 13);
+        QCOMPARE(tile->customFocusRect(), QRect(1, 1, 1, 1));
+        QCOMPARE(tile->property("end"), 2);
+    }
+
     void readingTheFocusRectangleMakesABindingDependOnIt()
     {
         Scene scene;

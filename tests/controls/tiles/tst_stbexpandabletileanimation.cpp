@@ -178,6 +178,17 @@ private Q_SLOTS:
         QCOMPARE(scene.rect(), focused);
     }
 
+    void aTileThatBecomesNormalShrinksFromItsFocusedSizeEvenWhenItRested()
+    {
+        Scene scene;
+        scene.tile->setState("normal");
+        QCOMPARE(scene.focusing().state(), QTimeLine::Running);
+        QCOMPARE(scene.focusing().direction(), QTimeLine::Backward);
+        QCOMPARE(scene.rect(), focused);
+        finish(scene.focusing());
+        QCOMPARE(scene.rect(), resting);
+    }
+
     void anotherStateChangesNothing()
     {
         Scene scene;
