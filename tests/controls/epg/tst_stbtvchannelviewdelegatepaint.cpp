@@ -318,12 +318,26 @@ private Q_SLOTS:
         QCOMPARE(scene.children()[Remainder].rect, QRectF(364, 99, 214, 5));
         scene.row->setProgress(0);
         scene.stage.renderFrame();
-        QCOMPARE(scene.children()[Played].rect, QRectF(151, 99, 0, 5));
+        QCOMPARE(scene.children()[Played].rect, QRectF(151, 99, 0, 0));
         QCOMPARE(scene.children()[Remainder].rect, QRectF(150, 99, 428, 5));
         scene.row->setProgress(1);
         scene.stage.renderFrame();
         QCOMPARE(scene.children()[Played].rect, QRectF(151, 99, 428, 5));
-        QCOMPARE(scene.children()[Remainder].rect, QRectF(578, 99, 0, 5));
+        QCOMPARE(scene.children()[Remainder].rect, QRectF(578, 99, 0, 0));
+    }
+
+    void aProgrammeThatBeginsAnewLeavesNoPixelOfTheFullBar()
+    {
+        Scene scene;
+        scene.fill();
+        scene.row->setProgress(1);
+        scene.stage.renderFrame();
+        scene.row->setProgress(0);
+        scene.stage.renderFrame();
+        QCOMPARE(scene.stage.picture(), Scene::freshPicture([](Scene &fresh) { fresh.row->setProgress(0); }));
+        scene.row->setProgress(1);
+        scene.stage.renderFrame();
+        QCOMPARE(scene.stage.picture(), Scene::freshPicture([](Scene &fresh) { fresh.row->setProgress(1); }));
     }
 
     void anotherStyleChangesFontsColoursAndPlaces()

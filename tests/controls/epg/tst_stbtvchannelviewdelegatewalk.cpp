@@ -58,9 +58,10 @@ private Q_SLOTS:
                 .property("channelListLockIconVisible", { true, false })
                 .property("cachedChannelRect", { QRect(), canvasCell(0), canvasCell(2) })
                 .property("imageSource", { QUrl(), picture("#c93d33.png"), picture("#3dab5b.png") })
-                .property("style", { QVariant::fromValue(&m_odd), QVariant::fromValue(&m_other), QVariant() })
-                .property("width", { 0, 1, 331, 600, 600, 611.5 })
-                .property("height", { 0, 97, 111, 111 })
+                .property("style", { QVariant::fromValue(&m_odd), QVariant::fromValue(&m_other),
+                                     QVariant::fromValue(&m_odd), QVariant::fromValue(&m_other), QVariant() })
+                .property("width", { 0, 331, 600, 600, 600, 611.5 })
+                .property("height", { 0, 97, 111, 111, 111, 111 })
                 .exclude("enabled", "a row has no disabled state")
                 .settle(finishLoading);
         const QString report = walk.run();
