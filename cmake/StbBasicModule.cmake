@@ -72,6 +72,7 @@ qt_add_qml_module(${module}
         scenegraph/textnodebuilder.cpp scenegraph/textnodebuilder.h
         scenegraph/throbbernodebuilder.cpp scenegraph/throbbernodebuilder.h
     ${qml_files})
+stb_quiet_compiled_qml(${module})
 
 # qmltyperegistrar includes the headers of the element types by their bare names.
 target_include_directories(${module} PRIVATE

@@ -34,10 +34,17 @@ if(Qt6_VERSION VERSION_GREATER_EQUAL 6.8)
     list(APPEND STBUI_QML_MODULE_OPTIONS NO_GENERATE_EXTRA_QMLDIRS)
 endif()
 
+# stb_quiet_compiled_qml(<target>): the C++ code that Qt makes of the target's QML files shadows its own parameters.
+function(stb_quiet_compiled_qml target)
+    get_target_property(sources ${target} SOURCES)
+    list(FILTER sources INCLUDE REGEX "/qmlcache/")
+    set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS -Wno-shadow)
+endfunction()
+
 # stb_install_qml_module(<target> <component>): plugin, qmldir, type description and QML files of a module.
 function(stb_install_qml_module target component)
     set(query TARGET_PATH path PLUGIN_TARGET plugin QMLDIR qmldir TYPEINFO typeinfo)
-    get_target_property(qml_files ${target} QT_QML_MODULE_FILES)
+    get_target_property(qml_files ${target} QT_QML_MODULE_QML_FILES)
     if(qml_files) # asked for the files of a module that has none, Qt 6.4 stops
         list(APPEND query QML_FILES files QML_FILES_DEPLOY_PATHS deploy_paths)
     endif()
