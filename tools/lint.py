@@ -234,9 +234,11 @@ def units_to_check(files, units, everything):
                   if str(ROOT / file) in changed or not changed.isdisjoint(headers))
 
 
-def check_tidy(files, everything, jobs):
+def check_tidy(files, everything, shipped, jobs):
     units = translation_units()
     chosen = units_to_check(files, units, everything)
+    if shipped:
+        chosen = [file for file in chosen if not file.startswith(("tests/", "benchmarks/"))]
     missing = [f"{file}: no target compiles this source" for file in files
                if file.endswith(".cpp") and file not in units]
     if not chosen:
@@ -264,6 +266,8 @@ def parse_arguments():
     parser.add_argument("--fix", action="store_true", help="let clang-format change the files")
     parser.add_argument("--no-build", action="store_true", help="take build/dev as it is")
     parser.add_argument("--no-tidy", action="store_true", help="leave out clang-tidy, the slow one")
+    parser.add_argument("--shipped", action="store_true",
+                        help="clang-tidy leaves out tests and benchmarks, which are most of the sources")
     parser.add_argument("--only", metavar="CHECK", help="clang-format, qmllint, shellcheck or clang-tidy")
     parser.add_argument("--build", metavar="FOLDER", default=BUILD, help="the build instead of build/dev")
     parser.add_argument("--jobs", type=int, default=len(os.sched_getaffinity(0)), help="clang-tidy processes")
@@ -302,7 +306,7 @@ def main():
         failed |= report(name, count, findings, started)
     if not options.no_tidy and options.only in (None, "clang-tidy"):
         started = time.monotonic()
-        count, cached, findings = check_tidy(files, options.all, options.jobs)
+        count, cached, findings = check_tidy(files, options.all, options.shipped, options.jobs)
         failed |= report("clang-tidy", count, findings, started, f", {cached} known from before", shown=True)
     print("lint: FAILED" if failed else "lint: clean")
     return 1 if failed else 0
