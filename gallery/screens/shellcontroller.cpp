@@ -88,4 +88,7 @@ void ShellController::goBack()
     Q_EMIT screenChanged();
 }
 
+// There is no player yet to open.
+void ShellController::openPlayer(int /*channelRow*/) {}
+
 } // namespace gallery

@@ -54,6 +54,10 @@ public:
     /*! Leaves the screen for the one below it; on the lowest one nothing happens. */
     void goBack();
 
+public Q_SLOTS:
+    /*! Plays the channel \a channelRow of the guide that is shown; nothing happens when there is none. */
+    void openPlayer(int channelRow);
+
 Q_SIGNALS:
     void screenChanged();
     void mirroredChanged();
