@@ -172,12 +172,12 @@ void Application::loadGuide()
     GuideController *guide = m_shell->guide();
     connect(guide, &GuideController::guideShown, this, &Application::finishLoading,
             Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
-    if (m_options.guideFile.isEmpty()) {
+    if (m_options.guideFile.isEmpty() && m_options.playlistFile.isEmpty()) {
         guide->setGuide(ownGuide(m_shell->clock()->now(), m_language));
         return;
     }
-    guide->load(m_options.guideFile, m_language);
-    // A file that is no guide is refused without a window flashing up; a long one shows its progress soon.
+    guide->load({ m_options.guideFile, m_options.playlistFile, m_language, m_shell->clock()->now() });
+    // A file that is no guide, or no playlist, is refused without a window flashing up; a long one shows its progress soon.
     QTimer::singleShot(200, m_view.get(), &QWindow::show);
 }
 
@@ -205,6 +205,11 @@ void Application::finishLoading()
 
 bool Application::tellProblems()
 {
+    const PlaylistReport playlist = m_shell->guide()->playlistReport();
+    if (playlist.outcome == PlaylistReport::Outcome::Unreadable) {
+        fail(ExitCode::Usage, playlist.error);
+        return false;
+    }
     const GuideReport guide = m_shell->guide()->report();
     if (!m_options.guideFile.isEmpty() && guide.outcome == GuideReport::Outcome::Unreadable) {
         fail(ExitCode::Usage, guide.error);
@@ -215,7 +220,8 @@ bool Application::tellProblems()
         fail(ExitCode::Usage, catalogue.error);
         return false;
     }
-    const QStringList messages = catalogue.messages(m_options.catalogueFile);
+    const QStringList messages = playlist.messages(m_options.playlistFile)
+                                 + catalogue.messages(m_options.catalogueFile);
     for (const QString &message : messages)
         printError(message);
     return true;

@@ -25,6 +25,8 @@ struct OptionText
 };
 
 constexpr OptionText guideOption { "guide"_L1, "Programme guide to show: XMLTV, plain or .gz."_L1, "file"_L1 };
+constexpr OptionText playlistOption { "playlist"_L1, "Channels to show, in this order: extended M3U."_L1,
+                                      "file"_L1 };
 constexpr OptionText catalogueOption { "catalogue"_L1, "Films and series to show: JSON."_L1, "file"_L1 };
 constexpr OptionText nowOption { "now"_L1, "Take this ISO 8601 time for the present."_L1, "date-time"_L1 };
 constexpr OptionText screenOption { "screen"_L1, "Screen to show: home, detail or guide."_L1, "name"_L1 };
@@ -184,6 +186,7 @@ CommandLine checked(const QCommandLineParser &parser)
     options.backend = check.choice(backendOption, { u"software"_s, u"rhi"_s });
     options.language = check.choice(languageOption, languageCodes());
     options.guideFile = check.readableFile(guideOption);
+    options.playlistFile = check.readableFile(playlistOption);
     options.catalogueFile = check.readableFile(catalogueOption);
     options.themeFile = check.readableFile(themeOption);
     options.screenshotsFolder = check.writableFolder(screenshotsOption);
@@ -203,9 +206,9 @@ CommandLine parseCommandLine(const QStringList &arguments)
     parser.setApplicationDescription(
             u"Shows the controls of Stbui.UI.Qml.Controls.Basic as a TV application."_s);
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    for (const OptionText &option :
-         { guideOption, catalogueOption, nowOption, screenOption, keysOption, screenshotsOption, themeOption,
-           resolutionOption, backendOption, languageOption, helpOption, versionOption })
+    for (const OptionText &option : { guideOption, playlistOption, catalogueOption, nowOption, screenOption,
+                                      keysOption, screenshotsOption, themeOption, resolutionOption,
+                                      backendOption, languageOption, helpOption, versionOption })
         addOption(parser, option);
     if (!parser.parse(arguments))
         return finished(ExitCode::Usage, parser.errorText());

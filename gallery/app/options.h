@@ -15,6 +15,7 @@ namespace gallery {
 struct Options
 {
     QString guideFile;
+    QString playlistFile;
     QString catalogueFile;
     /*! The time that the screens take for the present; the clock stands still then. Invalid: the real time. */
     QDateTime now;

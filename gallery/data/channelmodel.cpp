@@ -47,6 +47,8 @@ QVariant ChannelModel::data(const QModelIndex &index, int role) const
         return channel.group;
     case QualityRole:
         return channel.quality;
+    case LockedRole:
+        return channel.locked;
     default:
         return {};
     }
@@ -55,7 +57,8 @@ QVariant ChannelModel::data(const QModelIndex &index, int role) const
 QHash<int, QByteArray> ChannelModel::roleNames() const
 {
     return { { ChannelIdRole, "channelId" }, { NameRole, "name" },   { NumberRole, "number" },
-             { LogoRole, "logo" },           { GroupRole, "group" }, { QualityRole, "quality" } };
+             { LogoRole, "logo" },           { GroupRole, "group" }, { QualityRole, "quality" },
+             { LockedRole, "locked" } };
 }
 
 } // namespace gallery

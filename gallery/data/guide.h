@@ -29,6 +29,8 @@ struct Channel
     QString group = {};
     /*! The quality that a playlist tells ("HD", "4K"); else empty. */
     QString quality = {};
+    /*! Whether it takes a code to watch it, as a playlist tells. */
+    bool locked = false;
 };
 
 /*! From \a start on, up to but not including \a stop, in seconds since 1970-01-01 00:00 UTC. */

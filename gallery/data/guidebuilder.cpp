@@ -110,6 +110,11 @@ void GuideBuilder::addChannel(const Channel &channel)
         record.channel.number = channel.number;
     if (record.channel.icon.isEmpty())
         record.channel.icon = channel.icon;
+    if (record.channel.group.isEmpty())
+        record.channel.group = channel.group;
+    if (record.channel.quality.isEmpty())
+        record.channel.quality = channel.quality;
+    record.channel.locked = record.channel.locked || channel.locked;
 }
 
 void GuideBuilder::addProgramme(const NewProgramme &programme)

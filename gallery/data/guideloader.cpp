@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "gallery/data/guideloader.h"
 
+#include "gallery/data/ownguide.h"
+#include "gallery/data/playlistmatch.h"
+
 #include <atomic>
 #include <thread>
 
@@ -10,10 +13,10 @@ namespace gallery {
 // of the loader's thread. It is joined before the loader goes, and the loader's queued calls go with the loader.
 struct GuideLoader::Job
 {
-    Job(GuideLoader *loader, const QString &fileName, const QString &language)
+    Job(GuideLoader *loader, const GuideFiles &files)
         : m_loader(loader)
         , m_number(loader->m_number)
-        , m_thread([this, fileName, language] { run(fileName, language); })
+        , m_thread([this, files] { run(files); })
     {
     }
     ~Job()
@@ -23,20 +26,35 @@ struct GuideLoader::Job
         m_cancelled = true;
         m_thread.join();
     }
-    GuideReport takeReport()
+    void takeReports(GuideReport *guide, PlaylistReport *playlist)
     {
         m_thread.join();
-        return std::move(m_report);
+        *guide = std::move(m_report);
+        *playlist = std::move(m_playlistReport);
     }
 
 private:
-    void run(const QString &fileName, const QString &language)
+    void run(const GuideFiles &files)
+    {
+        if (!files.playlist.isEmpty())
+            m_playlistReport = readPlaylist(files.playlist);
+        if (m_playlistReport.outcome == PlaylistReport::Outcome::Complete)
+            read(files);
+        post([loader = m_loader] { loader->finish(); });
+    }
+    void read(const GuideFiles &files)
     {
         const auto tell = [this](double progress) {
             post([loader = m_loader, progress] { loader->setProgress(progress); });
         };
-        m_report = readGuide(fileName, { language, &m_cancelled, tell });
-        post([loader = m_loader] { loader->finish(); });
+        if (files.guide.isEmpty())
+            m_report.guide = ownGuide(files.now, files.language);
+        else
+            m_report = readGuide(files.guide, { files.language, &m_cancelled, tell });
+        const bool readable = m_report.outcome == GuideReport::Outcome::Complete
+                              || m_report.outcome == GuideReport::Outcome::Partial;
+        if (readable && !files.playlist.isEmpty())
+            m_report.guide = matchedGuide(m_playlistReport.playlist, m_report.guide).guide;
     }
     // A call that comes up after its reading was stopped is dropped.
     template <typename Call>
@@ -52,7 +70,8 @@ private:
     GuideLoader *m_loader = nullptr;
     quint64 m_number = 0;
     std::atomic<bool> m_cancelled = false;
-    GuideReport m_report; // the thread's until it is joined
+    GuideReport m_report; // this and the next are the thread's until it is joined
+    PlaylistReport m_playlistReport;
     std::thread m_thread; // the last, because it uses the others from its start
 };
 
@@ -66,12 +85,12 @@ GuideLoader::~GuideLoader()
     stop();
 }
 
-void GuideLoader::load(const QString &fileName, const QString &language)
+void GuideLoader::load(const GuideFiles &files)
 {
     const bool wasLoading = isLoading();
     stop();
     setProgress(0);
-    m_job = std::make_unique<Job>(this, fileName, language);
+    m_job = std::make_unique<Job>(this, files);
     if (!wasLoading)
         Q_EMIT loadingChanged();
 }
@@ -93,7 +112,7 @@ void GuideLoader::stop()
 
 void GuideLoader::finish()
 {
-    m_report = m_job->takeReport();
+    m_job->takeReports(&m_report, &m_playlistReport);
     stop();
     setProgress(1);
     Q_EMIT loadingChanged();

@@ -25,6 +25,8 @@ struct PlaylistChannel
     QString quality;
     /*! The channel's picture: a web address or an existing local file; empty when there is none. */
     QUrl logo;
+    /*! Whether the channel takes a code to watch (parent-code). */
+    bool locked = false;
     /*! Where the channel is to be received, as the playlist has it; never empty. */
     QString address;
 };

@@ -74,6 +74,7 @@ Channel shownAs(const PlaylistChannel &channel, const Guide &guide, int source)
     shown.icon = channel.logo.isEmpty() && source >= 0 ? guide.channel(source).icon : channel.logo;
     shown.group = channel.group;
     shown.quality = channel.quality;
+    shown.locked = channel.locked;
     return shown;
 }
 

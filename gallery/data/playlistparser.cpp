@@ -203,6 +203,7 @@ PlaylistChannel PlaylistParser::channelOf(PlaylistEntry *entry, const QString &a
     channel.guideName = takeText(entry, "tvg-name");
     channel.group = takeText(entry, "group-title");
     channel.number = takeNumber(entry);
+    channel.locked = !entry->attributes.value(QStringLiteral("parent-code")).isEmpty();
     channel.address = address;
     channel.name = takeName(entry, channel);
     channel.quality = channelQuality(channel.name, channel.group);

@@ -14,7 +14,7 @@ class ChannelNowModel : public ChannelModel
     Q_OBJECT
 public:
     enum Role {
-        NowTitleRole = ChannelModel::LogoRole + 1 /*!< nowTitle: QString, empty when nothing is on */
+        NowTitleRole = ChannelModel::FirstDerivedRole /*!< nowTitle: QString, empty when nothing is on */
     };
 
     using ChannelModel::ChannelModel;

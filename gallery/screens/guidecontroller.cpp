@@ -26,11 +26,6 @@ GuideController::GuideController(Clock *clock, QObject *parent)
     });
 }
 
-void GuideController::load(const QString &fileName, const QString &language)
-{
-    m_loader.load(fileName, language);
-}
-
 void GuideController::setGuide(const Guide &guide)
 {
     m_channels.setGuide(guide);

@@ -66,8 +66,8 @@ public:
     /*! \a clock tells the present and must outlive this object. */
     explicit GuideController(Clock *clock, QObject *parent = nullptr);
 
-    /*! Reads the guide \a fileName, choosing texts in \a language, and shows it; see GuideLoader. */
-    void load(const QString &fileName, const QString &language);
+    /*! Reads \a files and shows the guide that they make; see GuideLoader. */
+    void load(const GuideFiles &files) { m_loader.load(files); }
     /*! Shows \a guide from its start. */
     void setGuide(const Guide &guide);
     Guide shownGuide() const { return m_channels.guide(); }
@@ -75,6 +75,7 @@ public:
     void start();
     /*! What the last reading gave. */
     GuideReport report() const { return m_loader.report(); }
+    PlaylistReport playlistReport() const { return m_loader.playlistReport(); }
 
     QAbstractItemModel *channels() { return &m_channels; }
     QAbstractItemModel *programmes() { return &m_programmes; }

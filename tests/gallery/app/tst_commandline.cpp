@@ -48,7 +48,9 @@ private Q_SLOTS:
         const QString guide = file(QStringLiteral("guide.xml"));
         const QString theme = file(QStringLiteral("theme.json"));
         const QString catalogue = file(QStringLiteral("catalogue.json"));
+        const QString playlist = file(QStringLiteral("tv.m3u"));
         const CommandLine line = parse({ "--guide",       guide,
+                                         "--playlist",    playlist,
                                          "--catalogue",   catalogue,
                                          "--now",         "2015-11-26T20:05:00Z",
                                          "--screen",      "guide",
@@ -60,6 +62,7 @@ private Q_SLOTS:
                                          "--language",    "ru" });
         QVERIFY2(!line.exitCode, qPrintable(line.message));
         QCOMPARE(line.options.guideFile, guide);
+        QCOMPARE(line.options.playlistFile, playlist);
         QCOMPARE(line.options.catalogueFile, catalogue);
         QCOMPARE(line.options.now, QDateTime(QDate(2015, 11, 26), QTime(20, 5), QTimeZone::utc()));
         QCOMPARE(line.options.screen, "guide");
@@ -101,6 +104,9 @@ private Q_SLOTS:
         QTest::newRow("missing catalogue")
                 << QStringList { "--catalogue", "/does/not/exist.json" } << "/does/not/exist.json";
         QTest::newRow("folder as catalogue") << QStringList { "--catalogue", folder } << folder;
+        QTest::newRow("missing playlist")
+                << QStringList { "--playlist", "/does/not/exist.m3u" } << "/does/not/exist.m3u";
+        QTest::newRow("folder as playlist") << QStringList { "--playlist", folder } << folder;
         QTest::newRow("folder as guide") << QStringList { "--guide", folder } << folder;
         QTest::newRow("missing theme")
                 << QStringList { "--theme", "/does/not/exist.json" } << "/does/not/exist.json";
@@ -152,8 +158,8 @@ private Q_SLOTS:
         QCOMPARE(run.exitCode, 0);
         QCOMPARE(run.errors, QString());
         for (const char *option :
-             { "--guide", "--catalogue", "--now", "--screen", "--keys", "--screenshots", "--theme",
-               "--resolution", "--backend", "--language", "--help", "--version" })
+             { "--guide", "--playlist", "--catalogue", "--now", "--screen", "--keys", "--screenshots",
+               "--theme", "--resolution", "--backend", "--language", "--help", "--version" })
             QVERIFY2(run.output.contains(QLatin1String(option)), option);
     }
 
@@ -180,6 +186,37 @@ private Q_SLOTS:
         QCOMPARE(run.exitCode, 2);
         QCOMPARE(run.output, QString());
         QVERIFY2(run.errors.contains("no-guide.xml") && run.errors.count(u'\n') == 1, qPrintable(run.errors));
+    }
+
+    void aFileThatIsNoPlaylistEndsTheProgramWithTwo()
+    {
+        const QString path = file(QStringLiteral("no-playlist.m3u"), "this is no playlist\n");
+        const GalleryRun run = runGallery({ "--playlist", path, "--screenshots", m_folder.filePath("none") });
+        QCOMPARE(run.exitCode, 2);
+        QCOMPARE(run.output, QString());
+        QVERIFY2(run.errors.startsWith("stbui-gallery: ") && run.errors.contains("no-playlist.m3u")
+                         && run.errors.count(u'\n') == 1,
+                 qPrintable(run.errors));
+    }
+
+    void eachOddLineOfAPlaylistIsToldOnceAndTheRestIsShown()
+    {
+        const QString path = file(QStringLiteral("odd.m3u"),
+                                  "#EXTM3U\n"
+                                  "#EXTINF:-1 tvg-id=\"news\" tvg-chno=\"x\",News\n"
+                                  "udp://1\n"
+                                  "nonsense\n"
+                                  "#EXTINF:-1 tvg-id=\"sport\",Sport\n"
+                                  "udp://2\n");
+        const QString folder = m_folder.filePath("odd");
+        const GalleryRun run = runGallery({ "--playlist", path, "--screen", "guide", "--now",
+                                            "2026-03-04T20:05:00Z", "--screenshots", folder });
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.output, folder + "/guide.png\n");
+        const QStringList lines = run.errors.split(u'\n', Qt::SkipEmptyParts);
+        QCOMPARE(lines.size(), 2);
+        QVERIFY2(lines[0].startsWith("stbui-gallery: " + path + ": line 2: "), qPrintable(lines[0]));
+        QVERIFY2(lines[1].startsWith("stbui-gallery: " + path + ": line 4: "), qPrintable(lines[1]));
     }
 
     void aFileThatIsNoCatalogueEndsTheProgramWithTwo()

@@ -34,6 +34,11 @@ private Q_SLOTS:
     void destroyingTheLoaderStopsTheReading();
     void aFinishedLoaderReadsAgain();
     void cancellingWithoutReadingDoesNothing();
+    void aPlaylistSaysWhichChannelsThereAre();
+    void aPlaylistAloneShowsTheOwnGuide();
+    void withoutAPlaylistThereIsNoReportOfOne();
+    void anUnreadablePlaylistFinishesWithAnErrorAndNoGuide();
+    void anUnreadableGuideHasNoChannelsOfThePlaylist();
 
 private:
     QString write(const char *name, const QByteArray &content);
@@ -296,6 +301,72 @@ void TestGuideLoader::cancellingWithoutReadingDoesNothing()
     QSignalSpy loading(&loader, &GuideLoader::loadingChanged);
     loader.cancel();
     QCOMPARE(loading.size(), 0);
+}
+
+void TestGuideLoader::aPlaylistSaysWhichChannelsThereAre()
+{
+    GuideLoader loader;
+    QSignalSpy finished(&loader, &GuideLoader::finished);
+    const QString playlist = write("two.m3u", "#EXTM3U\n#EXTINF:-1,Other\nudp://1\nrubbish\n"
+                                              "#EXTINF:-1 tvg-id=\"c\",Mine\nudp://2\n");
+    loader.load({ m_small, playlist, QStringLiteral("de"), {} });
+    QCOMPARE(finished.size(), 0);
+    QTRY_COMPARE(finished.size(), 1);
+    QCOMPARE(loader.guide().channelCount(), 2);
+    QCOMPARE(loader.guide().channel(0).name, QStringLiteral("Other"));
+    QCOMPARE(loader.guide().programmeCount(0), 0);
+    QCOMPARE(loader.guide().channel(1).name, QStringLiteral("Mine"));
+    QCOMPARE(loader.guide().programme(1, 0).title, QStringLiteral("B"));
+    QCOMPARE(loader.playlistReport().problemCount, 1);
+    QCOMPARE(loader.playlistReport().problems.constFirst().line, 4);
+}
+
+void TestGuideLoader::aPlaylistAloneShowsTheOwnGuide()
+{
+    GuideLoader loader;
+    QSignalSpy finished(&loader, &GuideLoader::finished);
+    const QString playlist = write("own.m3u", "#EXTM3U\n#EXTINF:-1 tvg-id=\"kids\",Small\nudp://1\n");
+    const QDateTime now(QDate(2026, 3, 4), QTime(20, 5), Qt::UTC);
+    loader.load({ {}, playlist, QStringLiteral("en"), now });
+    QTRY_COMPARE(finished.size(), 1);
+    QCOMPARE(loader.guide().channelCount(), 1);
+    QCOMPARE(loader.guide().channel(0).name, QStringLiteral("Small"));
+    QVERIFY(loader.guide().programmeAt(0, now.toSecsSinceEpoch()) >= 0);
+}
+
+void TestGuideLoader::withoutAPlaylistThereIsNoReportOfOne()
+{
+    GuideLoader loader;
+    QSignalSpy finished(&loader, &GuideLoader::finished);
+    loader.load({ m_small, m_folder.filePath(QStringLiteral("missing.m3u")), {}, {} });
+    QTRY_COMPARE(finished.size(), 1);
+    loader.load({ m_small, {}, {}, {} });
+    QTRY_COMPARE(finished.size(), 2);
+    QCOMPARE(loader.playlistReport().outcome, PlaylistReport::Outcome::Complete);
+    QCOMPARE(loader.playlistReport().messages({}), QStringList());
+    QCOMPARE(loader.guide().channelCount(), 1);
+}
+
+void TestGuideLoader::anUnreadablePlaylistFinishesWithAnErrorAndNoGuide()
+{
+    GuideLoader loader;
+    QSignalSpy finished(&loader, &GuideLoader::finished);
+    loader.load({ m_small, m_folder.filePath(QStringLiteral("missing.m3u")), {}, {} });
+    QTRY_COMPARE(finished.size(), 1);
+    QCOMPARE(loader.playlistReport().outcome, PlaylistReport::Outcome::Unreadable);
+    QVERIFY(loader.playlistReport().error.contains(QLatin1String("missing.m3u")));
+    QVERIFY(loader.guide().isEmpty());
+}
+
+void TestGuideLoader::anUnreadableGuideHasNoChannelsOfThePlaylist()
+{
+    GuideLoader loader;
+    QSignalSpy finished(&loader, &GuideLoader::finished);
+    const QString playlist = write("one.m3u", "#EXTM3U\n#EXTINF:-1,One\nudp://1\n");
+    loader.load({ m_folder.filePath(QStringLiteral("missing.xml")), playlist, {}, {} });
+    QTRY_COMPARE(finished.size(), 1);
+    QCOMPARE(loader.report().outcome, GuideReport::Outcome::Unreadable);
+    QVERIFY(loader.guide().isEmpty());
 }
 
 STB_TEST_MAIN(TestGuideLoader)

@@ -139,6 +139,7 @@ void TestPlaylistMatch::thePlaylistNamesNumbersAndOrders()
     one.number = QStringLiteral("7");
     one.group = QStringLiteral("News");
     one.quality = QStringLiteral("HD");
+    one.locked = true;
     one.logo = QUrl(QStringLiteral("https://example.org/mine.png"));
     const Guide guide = matchedGuide({ channel(QStringLiteral("b"), QStringLiteral("First")), one }, sample())
                                 .guide;
@@ -149,6 +150,8 @@ void TestPlaylistMatch::thePlaylistNamesNumbersAndOrders()
     QCOMPARE(guide.channel(1).number, QStringLiteral("7"));
     QCOMPARE(guide.channel(1).group, QStringLiteral("News"));
     QCOMPARE(guide.channel(1).quality, QStringLiteral("HD"));
+    QVERIFY(guide.channel(1).locked);
+    QVERIFY(!guide.channel(0).locked);
     QCOMPARE(guide.channel(1).icon, QUrl(QStringLiteral("https://example.org/mine.png")));
     QCOMPARE(guide.programmeCount(), 2);
     QCOMPARE(guide.timeSpan(), TimeSpan({ at("2015-11-26T20:00:00Z"), at("2015-11-26T22:00:00Z") }));
@@ -204,6 +207,7 @@ void TestPlaylistMatch::theModelsShowTheMatch()
     one.number = QStringLiteral("7");
     one.group = QStringLiteral("News");
     one.quality = QStringLiteral("4K");
+    one.locked = true;
     one.logo = QUrl(QStringLiteral("https://example.org/mine.png"));
     const Guide guide = matchedGuide({ channel({}, QStringLiteral("New")), one }, sample()).guide;
     ChannelModel channels;
@@ -219,6 +223,8 @@ void TestPlaylistMatch::theModelsShowTheMatch()
     QCOMPARE(value(0, ChannelModel::QualityRole), QVariant(QString()));
     QCOMPARE(channels.roleNames().value(ChannelModel::GroupRole), QByteArray("group"));
     QCOMPARE(channels.roleNames().value(ChannelModel::QualityRole), QByteArray("quality"));
+    QCOMPARE(channels.data(channels.index(0), ChannelModel::LockedRole), QVariant(true));
+    QCOMPARE(channels.roleNames().value(ChannelModel::LockedRole), QByteArray("locked"));
     ProgrammeModel programmes;
     programmes.setGuide(guide);
     programmes.select(0, QDate(2015, 11, 26));

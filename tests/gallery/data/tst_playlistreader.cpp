@@ -35,6 +35,8 @@ private Q_SLOTS:
     void moreChannelsThanTheLimitAreLeftOut();
     void aLargerFileIsReadUpToTheLimit();
     void moreProblemsThanTheLimitAreCounted();
+    void aParentCodeLocksTheChannel_data();
+    void aParentCodeLocksTheChannel();
     void logosStartAtThePlaylistsFolder();
     void whatIsNoPlaylistGivesOneMessage_data();
     void whatIsNoPlaylistGivesOneMessage();
@@ -379,6 +381,23 @@ void TestPlaylistReader::moreProblemsThanTheLimitAreCounted()
     QCOMPARE(report.problems.size(), PlaylistReport::maximumProblems);
     QCOMPARE(report.messages(QStringLiteral("f")).size(), PlaylistReport::maximumProblems + 1);
     QCOMPARE(report.messages(QStringLiteral("f")).constLast(), QStringLiteral("f: and 37 more problems"));
+}
+
+void TestPlaylistReader::aParentCodeLocksTheChannel_data()
+{
+    QTest::addColumn<QByteArray>("entry");
+    QTest::addColumn<bool>("locked");
+    QTest::newRow("code") << QByteArray(R"(#EXTINF:-1 parent-code="1234",One)") << true;
+    QTest::newRow("empty") << QByteArray(R"(#EXTINF:-1 parent-code="",One)") << false;
+    QTest::newRow("none") << QByteArray("#EXTINF:-1,One") << false;
+}
+
+void TestPlaylistReader::aParentCodeLocksTheChannel()
+{
+    QFETCH(QByteArray, entry);
+    const PlaylistReport report = readEntry(entry);
+    QCOMPARE(problems(report), QStringList());
+    QTEST(report.playlist.constFirst().locked, "locked");
 }
 
 void TestPlaylistReader::logosStartAtThePlaylistsFolder()
