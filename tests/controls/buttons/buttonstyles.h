@@ -16,8 +16,8 @@ inline QFont pixelFont(int pixelSize)
 }
 
 /*!
-    Every number odd, every colour another one: two swapped fields cannot pass. The font sizes are such that all
-    versions of Qt put the base line on the same pixel: they round the ascent in different ways.
+    Every number odd, every colour another one: two swapped fields cannot pass. In the font sizes
+    a line of DejaVu Sans has the same height in all versions of Qt; see tilestyles.h.
 */
 inline design_system::QmlButtonStyle oddButtonStyle()
 {
@@ -36,7 +36,7 @@ inline design_system::QmlButtonStyle oddButtonStyle()
     style.textMarginLeft = 7;
     style.textMarginRight = 11;
     style.titleSubtitleSpacing = 5;
-    style.titleStyle.font = pixelFont(25);
+    style.titleStyle.font = pixelFont(21);
     style.titleStyle.maxLineCount = 1;
     style.titleStyle.colors = { QColor(251, 252, 253), QColor(151, 252, 253), QColor(151, 152, 153),
                                 QColor(1, 2, 3) };

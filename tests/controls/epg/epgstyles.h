@@ -19,22 +19,22 @@ inline QFont pixelFont(int pixelSize)
 }
 
 /*!
-    Every number odd, every colour another one: two swapped fields cannot pass. The font sizes are such that all
-    versions of Qt put the base line on the same pixel: they round the ascent in different ways.
+    Every number odd, every colour another one: two swapped fields cannot pass. In the font sizes
+    a line of DejaVu Sans has the same height in all versions of Qt; see ../tiles/tilestyles.h.
 */
 inline design_system::PlayerEpgDelegateStyle oddEpgStyle()
 {
     design_system::PlayerEpgDelegateStyle style;
     style.titleSubtitleSpacing = 7;
     style.startTimeTextStyle.rect = QRect(501, 503, 113, 509);
-    style.startTimeTextStyle.font = pixelFont(25);
+    style.startTimeTextStyle.font = pixelFont(21);
     style.startTimeTextStyle.maxLineCount = 1;
     style.startTimeTextStyle.color = QColor(1, 1, 1);
     style.previewRect = QRect(131, 53, 417, 211);
     style.previewBottomSpacing = 33;
     style.cardColor = QColor(13, 17, 61, 117);
     style.reminderIconSpacing = 19;
-    style.statusTextStyle.font = pixelFont(25);
+    style.statusTextStyle.font = pixelFont(21);
     style.statusTextStyle.color = QColor(233, 223, 121);
     style.statusTextStyle.maxLineCount = 1;
     style.startsAtTextStyle.font = pixelFont(17);
@@ -78,7 +78,7 @@ inline design_system::PlayerEpgDelegateStyle otherEpgStyle()
     design_system::PlayerEpgDelegateStyle style = oddEpgStyle();
     style.titleSubtitleSpacing = 17;
     style.startTimeTextStyle.rect = QRect(1, 3, 71, 5);
-    style.startTimeTextStyle.font = pixelFont(27);
+    style.startTimeTextStyle.font = pixelFont(24);
     style.previewRect = QRect(141, 1, 333, 7);
     style.previewBottomSpacing = 15;
     style.cardColor = QColor(61, 17, 13, 171);
@@ -103,10 +103,10 @@ inline design_system::PlayerEpgDelegateStyle otherEpgStyle()
     style.liveBadgeIconSpacing = 19;
     style.liveTextStyle.font = pixelFont(17);
     style.liveTextStyle.color = QColor(1, 241, 231);
-    style.titleTextStyle.font = pixelFont(31);
+    style.titleTextStyle.font = pixelFont(33);
     style.titleTextStyle.maxLineCount = 1;
     style.titleTextStyle.alignment = Qt::AlignRight;
-    style.subtitleTextStyle.font = pixelFont(19);
+    style.subtitleTextStyle.font = pixelFont(28);
     style.subtitleTextStyle.color = QColor(191, 91, 111);
     style.liveStartTimeColor = QColor(41, 231, 51);
     style.unavailableTextColor = QColor(151, 103, 157);
@@ -128,7 +128,7 @@ inline design_system::PlayerHorizontalEpgViewStyle oddHorizontalEpgStyle()
     style.dateStyle.maxLineCount = 1;
     style.dateStyle.color = QColor(1, 1, 1);
     style.dateColor = QColor(91, 191, 241);
-    style.titleStyle.font = pixelFont(25);
+    style.titleStyle.font = pixelFont(21);
     style.titleStyle.maxLineCount = 2;
     style.titleStyle.alignment = Qt::AlignHCenter;
     style.titleStyle.color = QColor(2, 2, 2);
@@ -187,7 +187,7 @@ inline design_system::PlayerEpgDateStyle oddEpgDateStyle()
 inline design_system::PlayerEpgDateStyle otherEpgDateStyle()
 {
     design_system::PlayerEpgDateStyle style;
-    style.monthStyle.font = pixelFont(25);
+    style.monthStyle.font = pixelFont(21);
     style.monthColor = QColor(241, 91, 41);
     style.dayStyle.font = pixelFont(15);
     style.dayActiveColor = QColor(201, 251, 131);
@@ -225,7 +225,7 @@ inline design_system::PlayerTvChannelItemStyle oddTvChannelStyle()
     style.qualityTextStyle.topPadding = 3;
     style.qualityTextStyle.rightPadding = 15;
     style.qualityTextStyle.bottomPadding = 1;
-    style.channelNameTextStyle.font = pixelFont(25);
+    style.channelNameTextStyle.font = pixelFont(21);
     style.channelNameTextStyle.maxLineCount = 1;
     style.channelNameTextStyle.color = QColor(251, 249, 231);
     style.programNameTextStyle.font = pixelFont(17);
@@ -263,7 +263,7 @@ inline design_system::PlayerTvChannelItemStyle otherTvChannelStyle()
     style.programNameSpacing = 9;
     style.nameQualitySpacing = 21;
     style.qualityTextStyle.backgroundColor = QColor(21, 91, 31);
-    style.qualityTextStyle.font = pixelFont(25);
+    style.qualityTextStyle.font = pixelFont(21);
     style.qualityTextStyle.color = QColor(211, 251, 131);
     style.qualityTextStyle.leftPadding = 3;
     style.qualityTextStyle.topPadding = 1;
@@ -311,7 +311,7 @@ inline design_system::PlayerEpisodesItemStyle oddEpisodesStyle()
     style.textAreaRect = QRect(501, 503, 307, 509);
     style.textLeftSpacing = 19;
     style.titleSubtitleSpacing = 23;
-    style.titleTextStyle.font = pixelFont(25);
+    style.titleTextStyle.font = pixelFont(33);
     style.titleTextStyle.maxLineCount = 2;
     style.titleTextStyle.color = QColor(211, 213, 217);
     style.subtitleTextStyle.font = pixelFont(15);

@@ -14,8 +14,11 @@ class tst_StbExpandableTileDesign : public stbtest::TestCase
 private Q_SLOTS:
     void initTestCase()
     {
-        qmlRegisterSingletonType<QObject>("Stbui.UI.Qml.Design", 1, 0, "QmlDesignSystem",
-                                          [](QQmlEngine *, QJSEngine *) { return new QObject; });
+        // Up to Qt 6.4 the look-up asks for 1.0, from 6.5 on for the newest there is.
+        for (const int version : {1, 2}) {
+            qmlRegisterSingletonType<QObject>("Stbui.UI.Qml.Design", version, 0, "QmlDesignSystem",
+                                              [](QQmlEngine *, QJSEngine *) { return new QObject; });
+        }
     }
 
     void withoutADesignSystemTheFocusTakesOneMillisecondAndNothingFades()
