@@ -63,8 +63,11 @@ need_packages() {
 }
 
 # configure_preset <preset>: only when the build folder is not there yet; the build itself notices changes.
+# STBUI_CMAKE_OPTIONS: more arguments for CMake, separated by blanks.
 configure_preset() {
-    [[ -f $STB_ROOT/build/$1/build.ninja ]] || (cd "$STB_ROOT" && cmake --preset "$1")
+    local -a options
+    read -ra options <<<"${STBUI_CMAKE_OPTIONS:-}"
+    [[ -f $STB_ROOT/build/$1/build.ninja ]] || (cd "$STB_ROOT" && cmake --preset "$1" "${options[@]}")
 }
 
 # build_preset <preset> [<target>...]

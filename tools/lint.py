@@ -161,20 +161,40 @@ def header_lists():
     return lists
 
 
+def reading_headers(command):
+    """The command without a precompiled header, which clang-tidy could not read: GCC made it."""
+    return re.sub(r" -Winvalid-pch| -include \S*/cmake_pch\.hxx", "", command)
+
+
+def headers_read(name, lists):
+    """What an object was compiled from, with what a precompiled header stands for."""
+    read = set()
+    for path in lists.get(name, []):
+        inside = lists.get(os.path.relpath(path, BUILD), []) if path.endswith(".gch") else [path]
+        read.update(file for file in inside if "/cmake_pch." not in file)
+    return read
+
+
 def translation_units():
-    """Path in the tree -> its compile command and the headers it reads. Generated sources are left out."""
+    """
+    Path in the tree -> its compile command and the headers it reads. Generated sources are left out.
+    Writes the commands where clang-tidy finds them.
+    """
     database = BUILD / "compile_commands.json"
     if not database.is_file():
         sys.exit(f"lint: {BUILD} is not configured; run tools/lint without --no-build")
-    headers = header_lists()
-    units = {}
-    for entry in json.loads(database.read_text()):
+    lists = header_lists()
+    units, entries = {}, json.loads(database.read_text())
+    for entry in entries:
+        entry["command"] = reading_headers(entry["command"])
         path = os.path.normpath(os.path.join(entry["directory"], entry["file"]))
         if not path.startswith(f"{ROOT}/") or path.startswith(f"{ROOT}/build/"):
             continue
         words = shlex.split(entry["command"])
         target = words[words.index("-o") + 1] if "-o" in words else ""
-        units[path[len(str(ROOT)) + 1:]] = (entry["command"], headers.get(target, []))
+        units[path[len(str(ROOT)) + 1:]] = (entry["command"], headers_read(target, lists))
+    (BUILD / "lint").mkdir(exist_ok=True)
+    (BUILD / "lint" / database.name).write_text(json.dumps(entries))
     return units
 
 
@@ -210,7 +230,7 @@ def tidy_one(program, file, key):
     if key is not None and (CACHE / key[:2] / key).exists():
         os.utime(CACHE / key[:2] / key)
         return file, "", True
-    result = run([program, "-p", str(BUILD), "--quiet", str(ROOT / file)])
+    result = run([program, "-p", str(BUILD / "lint"), "--quiet", str(ROOT / file)])
     if result.returncode == 0:
         if key is not None:
             (CACHE / key[:2]).mkdir(parents=True, exist_ok=True)
