@@ -15,7 +15,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         // Up to Qt 6.4 the look-up asks for 1.0, from 6.5 on for the newest there is.
-        for (const int version : {1, 2}) {
+        for (const int version : { 1, 2 }) {
             qmlRegisterSingletonType<QObject>("Stbui.UI.Qml.Design", version, 0, "QmlDesignSystem",
                                               [](QQmlEngine *, QJSEngine *) { return new QObject; });
         }
