@@ -30,9 +30,9 @@ public:
     FontGroup *title() { return &m_title; }
 
     // By state: normal, checked, disabled, focused.
-    Q_INVOKABLE QList<QColor> indicatorColors() const { return m_indicator.toList(); }
-    Q_INVOKABLE QList<QColor> iconColors() const { return m_iconStates.toList(); }
-    Q_INVOKABLE QList<QColor> titleColors() const { return m_titleStates.toList(); }
+    Q_INVOKABLE design_system::ColorList indicatorColors() const { return m_indicator.toList(); }
+    Q_INVOKABLE design_system::ColorList iconColors() const { return m_iconStates.toList(); }
+    Q_INVOKABLE design_system::ColorList titleColors() const { return m_titleStates.toList(); }
 
 Q_SIGNALS:
     void roundingRadiusChanged();

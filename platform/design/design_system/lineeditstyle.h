@@ -33,9 +33,9 @@ public:
     using QObject::QObject;
 
     // By state: normal, checked, disabled, focused.
-    Q_INVOKABLE QList<QColor> backgroundColors() const { return m_background.toList(); }
-    Q_INVOKABLE QList<QColor> textColors() const { return m_text.toList(); }
-    Q_INVOKABLE QList<QColor> placeholderTextColors() const { return m_placeholder.toList(); }
+    Q_INVOKABLE design_system::ColorList backgroundColors() const { return m_background.toList(); }
+    Q_INVOKABLE design_system::ColorList textColors() const { return m_text.toList(); }
+    Q_INVOKABLE design_system::ColorList placeholderTextColors() const { return m_placeholder.toList(); }
 
 Q_SIGNALS:
     void roundingRadiusChanged();

@@ -11,6 +11,12 @@
 
 namespace design_system {
 
+/*!
+    Colours by state. Invokable methods return them under this name: of a method that returns a "QList<QColor>"
+    the type descriptions of Qt 6.4 keep the "QColor" alone.
+*/
+using ColorList = QList<QColor>;
+
 /*! Four colours, one for each state of a control. */
 struct STBDESIGN_EXPORT StatesColors
 {
@@ -27,7 +33,7 @@ public:
     QColor focused;
 
     /*! The colours in the order normal, checked, disabled, focused. */
-    QList<QColor> toList() const { return { normal, checked, disabled, focused }; }
+    ColorList toList() const { return { normal, checked, disabled, focused }; }
 
     bool operator==(const StatesColors &) const = default;
 };

@@ -30,7 +30,8 @@ private:
 };
 
 /*! A group of a style that describes a line of text; the margins are pixels. */
-class STBDESIGN_EXPORT TextGroup : public FontGroup
+class STBDESIGN_EXPORT TextGroup
+    : public design_system::FontGroup // so written, the type description knows it
 {
     Q_OBJECT
     Q_PROPERTY(QColor color MEMBER m_color NOTIFY colorChanged)
