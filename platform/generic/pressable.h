@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#ifndef STBGENERIC_PRESSABLE_H
+#define STBGENERIC_PRESSABLE_H
+
+#include <QtQml/qqmlregistration.h>
+#include <QtQuick/qquickitem.h>
+
+namespace stbgeneric {
+
+/*!
+    An item that the OK keys (isOkKey()) and the left mouse button press, and that is nothing else: unlike a
+    button of Qt Quick's templates it never checks itself. A click is a press and a release on the item; a key
+    that is held clicks once. Losing the focus, the pointer, its enabled state or its visibility ends a press
+    without a click.
+*/
+class Pressable : public QQuickItem
+{
+    Q_OBJECT
+    Q_PROPERTY(bool pressed READ isPressed NOTIFY pressedChanged)
+    QML_ELEMENT
+public:
+    explicit Pressable(QQuickItem *parent = nullptr);
+
+    bool isPressed() const { return m_pressed; }
+
+Q_SIGNALS:
+    void pressedChanged();
+    void clicked();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseUngrabEvent() override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void itemChange(ItemChange change, const ItemChangeData &data) override;
+
+private:
+    void setPressed(bool pressed);
+    void release();
+
+    bool m_pressed = false;
+};
+
+} // namespace stbgeneric
+
+#endif // STBGENERIC_PRESSABLE_H
