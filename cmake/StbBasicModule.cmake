@@ -73,6 +73,9 @@ qt_add_qml_module(${module}
         scenegraph/throbbernodebuilder.cpp scenegraph/throbbernodebuilder.h
     ${qml_files})
 stb_quiet_compiled_qml(${module})
+if(TARGET StbGenericPlugin) # the QML files are compiled with its type description
+    add_dependencies(${module} StbGenericPlugin)
+endif()
 
 # qmltyperegistrar includes the headers of the element types by their bare names.
 target_include_directories(${module} PRIVATE

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+import Stbui.UI.Qml.Controls.Basic as STBUIQCB
+import Stbui.UI.Qml.Controls.Generic as STBUIQCG
+import Stbui.UI.Qml.Design as STBUIQD
+
+STBUIQCG.CheckBox {
+    id: _checkBox
+
+    property STBUIQD.CheckBoxQmlStyle style: STBUIQD.QmlDesignSystem.standardCheckBoxStyle
+
+    roundingRadius: STBUIQCB.QmlSettings.roundingEnabled ? style.roundingRadius : 0
+    indicatorSize: style.icon.size
+    indicatorColors: style.indicatorColors()
+    iconPath: style.icon.path
+    iconColors: style.iconColors()
+    titleFont: style.title.font
+    titleColors: style.titleColors()
+    spacing: style.spacing
+}

@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+import Stbui.UI.Qml.Controls.Generic as STBUIQCG
+import Stbui.UI.Qml.Design as STBUIQD
+
+STBUIQCG.CircleProgressBar {
+    id: _circleProgress
+
+    barWidth: 10
+    barBackgroundColor: STBUIQD.QmlDesignSystem.colors.sochi20
+    barColor: STBUIQD.QmlDesignSystem.colors.berlin
+}

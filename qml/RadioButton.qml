@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+import Stbui.UI.Qml.Controls.Basic as STBUIQCB
+import Stbui.UI.Qml.Design as STBUIQD
+
+STBUIQCB.CheckBox {
+    id: _radioButton
+
+    forceRounding: true
+    roundingRadius: STBUIQD.QmlDesignSystem.standardCheckBoxStyle.icon.width / 2
+    iconPath: "qrc:/resources/icons/radio_button_mark.png"
+}
