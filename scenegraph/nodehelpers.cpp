@@ -200,6 +200,11 @@ void placeImageNode(QSGImageNode *node, const QRect &rect)
         setNodeRect(node, QRectF(rect));
 }
 
+QRectF nodeRect(const QRect &rect)
+{
+    return QRectF(rect.topLeft(), rect.isValid() ? QSizeF(rect.size()) : QSizeF(0, 0));
+}
+
 void setNodeRect(QSGImageNode *node, const QRectF &rect)
 {
     if (node->rect() != rect)

@@ -94,6 +94,13 @@ void renderTextToImageNodeTexture(QSGImageNode *node, stbcore::TextRenderer &ren
 */
 void placeImageNode(QSGImageNode *node, const QRect &rect);
 
+/*!
+    \a rect as a node takes it: an empty one keeps its place and has no extent at all. The software renderer forgets
+    to paint over what a node showed before when the node shrinks to no width, but some height, below an opaque one,
+    as the played part of a bar does below the remainder; other adaptations paint a negative extent turned round.
+*/
+QRectF nodeRect(const QRect &rect);
+
 /*! Sets the node's rectangle when it is another: a setter of a node marks it dirty whatever it sets. */
 void setNodeRect(QSGImageNode *node, const QRectF &rect);
 void setNodeRect(QSGRectangleNode *node, const QRectF &rect);

@@ -24,12 +24,6 @@ QString translatedInList(const char *key)
     return QCoreApplication::translate("stbui::EpgListModel", key);
 }
 
-// Some adaptations would paint a negative size turned round.
-QRectF paintedRect(const QRect &rect)
-{
-    return rect.width() < 0 || rect.height() < 0 ? QRectF() : QRectF(rect);
-}
-
 } // namespace
 
 StbEpgViewDelegateFocusedPrivate::StbEpgViewDelegateFocusedPrivate() = default;
@@ -185,10 +179,10 @@ QSGRectangleNode *StbEpgViewDelegateFocusedPrivate::updateCard(ChildNodes &child
     QSGTexture *texture = m_image.texture(sceneGraphRenderContext(), q->window());
     QSGImageNode *picture = m_image.placeNode(children, m_imageNodePresent, sceneGraphContext(), texture);
     if (picture)
-        setNodeRect(picture, paintedRect(style.previewRect));
+        setNodeRect(picture, nodeRect(style.previewRect));
     bool present = true; // from the root's first update on
     QSGRectangleNode *card = placeRectangleNode(children, true, present, sceneGraphContext(), style.cardColor);
-    setNodeRect(card, paintedRect(style.previewRect));
+    setNodeRect(card, nodeRect(style.previewRect));
     return card;
 }
 
@@ -252,15 +246,15 @@ void StbEpgViewDelegateFocusedPrivate::placeCardNodes(const Style &style, const 
                                                                    m_startsAtText.boundingRect(),
                                                                    m_reminderActionText.boundingRect() });
     if (nodes.played) {
-        setNodeRect(nodes.played, paintedRect(layout.played));
-        setNodeRect(nodes.remainder, paintedRect(layout.remainder));
+        setNodeRect(nodes.played, nodeRect(layout.played));
+        setNodeRect(nodes.remainder, nodeRect(layout.remainder));
     }
     if (nodes.playIcon)
         placeImageNode(nodes.playIcon, layout.playIcon);
     if (nodes.status)
         placeImageNode(nodes.status, nodes.reminderBar ? layout.status : layout.notice);
     if (nodes.reminderBar) {
-        setNodeRect(nodes.reminderBar, paintedRect(layout.reminderBar));
+        setNodeRect(nodes.reminderBar, nodeRect(layout.reminderBar));
         placeImageNode(nodes.reminderAction, layout.reminderAction);
         placeImageNode(nodes.startsAt, layout.startsAt);
         placeImageNode(nodes.reminderIcon, layout.reminderIcon);

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "controls/epg/stbepisodesviewdelegatelayout.h"
 
+#include "controls/wholepixels.h"
+
 #include <design_system/playerepisodesitemstyle.h>
 
-#include <algorithm>
-
+using qml_basic_plugin::farAway;
+using qml_basic_plugin::wholePixels;
 using Style = design_system::PlayerEpisodesItemStyle;
 using Layout = StbEpisodesViewDelegateLayout;
 
 namespace {
-
-constexpr double farAway = 1 << 24; // beyond any screen; the sums with it stay within integers
 
 int contentLeft(const Style &style)
 {
@@ -91,6 +91,6 @@ Layout::Progress Layout::progress(const Style &style, double fraction)
     const int track = style.tileRect.width() - style.contentLeftMargin - style.contentRightMargin;
     const int bar = style.progressBarRect.height();
     const int top = style.tileRect.bottom() - bar - style.contentBottomMargin;
-    const int viewed = int(std::clamp(track * fraction, -farAway, farAway));
+    const int viewed = wholePixels(track * fraction, farAway);
     return { QRect(left, top, viewed, bar), QRect(left + viewed - 1, top, track - viewed, bar) };
 }

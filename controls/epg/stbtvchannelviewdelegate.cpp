@@ -18,12 +18,10 @@ QSGImageNode *textOf(QSGRectangleNode *box)
     return static_cast<QSGImageNode *>(box->firstChild());
 }
 
-// The software renderer forgets to paint over what a node showed before when the node shrinks to no width, but
-// some height, below an opaque one, as the played part does below the remainder: nothing has no height either.
 void fill(QSGRectangleNode *node, const QColor &color, const QRect &rect)
 {
     setNodeColor(node, visibleColor(color));
-    setNodeRect(node, QRectF(rect.topLeft(), rect.isValid() ? QSizeF(rect.size()) : QSizeF(0, 0)));
+    setNodeRect(node, nodeRect(rect));
 }
 
 } // namespace

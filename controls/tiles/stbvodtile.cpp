@@ -140,14 +140,14 @@ QSGNode *StbVodTilePrivate::updateExtendedNodes(const TileStyle &style, QSGNode 
     if (rightholder)
         setNodeRect(rightholder, QRectF(layout.rightholder));
     if (badge) {
-        setNodeRect(badge, QRectF(layout.ratingBadge));
+        setNodeRect(badge, nodeRect(layout.ratingBadge));
         placeImageNode(static_cast<QSGImageNode *>(badge->firstChild()), layout.ratingText);
     }
     if (auto *track = placeRectangleNode(children, layout.trackShown, m_progressTrackPresent,
                                          sceneGraphContext(), style.progressTrackColor))
-        setNodeRect(track, QRectF(layout.progressTrack));
+        setNodeRect(track, nodeRect(layout.progressTrack));
     if (auto *value = placeRectangleNode(children, layout.progressShown, m_progressValuePresent,
                                          sceneGraphContext(), style.progressValueColor))
-        setNodeRect(value, QRectF(layout.progressValue));
+        setNodeRect(value, nodeRect(layout.progressValue));
     return nullptr; // no tile derives from this one
 }

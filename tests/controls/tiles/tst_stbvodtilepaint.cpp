@@ -59,6 +59,18 @@ private Q_SLOTS:
         QCOMPARE(scene.stage.picture(), scene.stage.renderWhole());
     }
 
+    void aFilmWatchedAnewLeavesNoPixelOfTheFullBar()
+    {
+        Scene scene;
+        QTRY_VERIFY(scene.isLoaded());
+        scene.tile->setTimepoint(3);
+        scene.stage.renderFrame();
+        scene.tile->setTimepoint(0.001);
+        scene.stage.renderFrame();
+        QVERIFY(scene.marks().last().rect.isEmpty());
+        QCOMPARE(scene.stage.picture(), scene.stage.renderWhole());
+    }
+
     void aProgressOfLessThanAColumnPaintsNothing()
     {
         Scene scene;
