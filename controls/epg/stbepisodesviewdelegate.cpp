@@ -43,12 +43,6 @@ qint64 wholeNumber(double value)
     return value < -beyond ? std::numeric_limits<qint64>::min() : qint64(value);
 }
 
-// A negative size is nothing to paint; some adaptations would paint it turned round.
-QRectF nodeRect(const QRect &rect)
-{
-    return QRectF(QPointF(rect.topLeft()), QSizeF(rect.size().expandedTo(QSize(0, 0))));
-}
-
 } // namespace
 
 StbEpisodesViewDelegatePrivate::StbEpisodesViewDelegatePrivate() = default;
