@@ -6,39 +6,9 @@
 
 #include <QtGui/qfontmetrics.h>
 
-#include <algorithm>
-#include <cmath>
-
 using namespace design_system;
 
 namespace {
-
-double linear(double channel)
-{
-    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-}
-
-double luminance(const QColor &c)
-{
-    return 0.2126 * linear(double(c.redF())) + 0.7152 * linear(double(c.greenF()))
-           + 0.0722 * linear(double(c.blueF()));
-}
-
-// As the web's accessibility guidelines define it, for opaque colours.
-double contrast(const QColor &a, const QColor &b)
-{
-    const double dark = std::min(luminance(a), luminance(b));
-    const double light = std::max(luminance(a), luminance(b));
-    return (light + 0.05) / (dark + 0.05);
-}
-
-// What a translucent colour looks like over another one.
-QColor blended(const QColor &c, const QColor &ground)
-{
-    const auto mixed = [&](int over, int under) { return under + (over - under) * c.alpha() / 255; };
-    return QColor(mixed(c.red(), ground.red()), mixed(c.green(), ground.green()),
-                  mixed(c.blue(), ground.blue()));
-}
 
 // Colours that the theme leaves out: a tile has neither overlay nor frame, and not every text stands on a
 // fill or changes with the state.
@@ -177,51 +147,6 @@ private Q_SLOTS:
             QVERIFY2(room.contains(value.toRect()), qPrintable(path));
         });
         QVERIFY(rectangles > 20);
-    }
-
-    void textsStandOutFromWhatIsBehindThem()
-    {
-        const QmlDesignSystem theme;
-        const auto color = [&](const char *token) {
-            return theme.colors()->token(QString::fromLatin1(token));
-        };
-        constexpr double readable = 4.5;
-        for (const char *surface : { "oslo", "bamako", "bogota" }) {
-            QVERIFY(contrast(color("sochi"), color(surface)) >= readable);
-            QVERIFY(contrast(color("lima"), color(surface)) >= readable);
-            QVERIFY(contrast(color("berlin"), color(surface)) >= readable);
-        }
-        for (const char *fill : { "berlin", "quito" })
-            QVERIFY(contrast(color("oslo"), color(fill)) >= readable);
-        QVERIFY(contrast(color("quito"), color("dakar")) >= readable);
-    }
-
-    void theGuideRowsTextsStandOutFromTheScreen_data() { eachResolution(); }
-    void theGuideRowsTextsStandOutFromTheScreen()
-    {
-        const auto theme = system();
-        const PlayerEpgDelegateStyle style = theme->playerEpgDelegateStyle()->style();
-        const QColor screen = theme->colors()->token(QStringLiteral("oslo"));
-        for (const QColor &text : { style.liveStartTimeColor, style.unavailableTextColor,
-                                    style.playableTextColor, style.subtitleTextStyle.color })
-            QVERIFY(contrast(text, screen) >= 4.5);
-        QVERIFY(contrast(style.liveTextStyle.color, style.liveBadgeColor) >= 4.5);
-        QVERIFY(luminance(style.unavailableTextColor) < luminance(style.playableTextColor));
-    }
-
-    void theGuideRowsCardShowsWithoutAPictureAndItsTextsOnTheBrightestOne_data() { eachResolution(); }
-    void theGuideRowsCardShowsWithoutAPictureAndItsTextsOnTheBrightestOne()
-    {
-        const auto theme = system();
-        const PlayerEpgDelegateStyle style = theme->playerEpgDelegateStyle()->style();
-        const QColor screen = theme->colors()->token(QStringLiteral("oslo"));
-        QVERIFY(contrast(blended(style.cardColor, screen), screen) >= 1.1);
-        const QColor brightest = blended(style.cardColor, Qt::white);
-        for (const QColor &text :
-             { style.statusTextStyle.color, style.startsAtTextStyle.color, style.playIconColor })
-            QVERIFY(contrast(text, brightest) >= 4.5);
-        QVERIFY(contrast(style.reminderActionTextStyle.color, style.reminderActionTextStyle.backgroundColor)
-                >= 4.5);
     }
 
     void theGuideRowsStartTimeEndsBeforeItsTexts_data() { eachResolution(); }
