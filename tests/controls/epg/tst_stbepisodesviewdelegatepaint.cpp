@@ -211,20 +211,20 @@ private Q_SLOTS:
 
     void aPositionBeyondTheDurationMakesTheViewedPartLongerThanTheTrack()
     {
-        checkBar(80, 64, QRectF(24, 95, 213, 15), QRectF(236, 95, 0, 15));
+        checkBar(80, 64, QRectF(24, 95, 213, 15), QRectF(236, 95, 0, 0));
     }
     void aPositionAtTheDurationFillsTheTrack()
     {
-        checkBar(64, 64, QRectF(24, 95, 171, 15), QRectF(194, 95, 0, 15));
+        checkBar(64, 64, QRectF(24, 95, 171, 15), QRectF(194, 95, 0, 0));
     }
     void aNegativePositionShowsNoViewedPartAndALongerRest()
     {
-        checkBar(-32, 64, QRectF(24, 95, 0, 15), QRectF(-62, 95, 256, 15));
+        checkBar(-32, 64, QRectF(24, 95, 0, 0), QRectF(-62, 95, 256, 15));
     }
     void withoutADurationThereIsNoViewedPart()
     {
-        checkBar(20, 0, QRectF(24, 95, 0, 15), QRectF(23, 95, 171, 15));
-        checkBar(20, -5, QRectF(24, 95, 0, 15), QRectF(23, 95, 171, 15));
+        checkBar(20, 0, QRectF(24, 95, 0, 0), QRectF(23, 95, 171, 15));
+        checkBar(20, -5, QRectF(24, 95, 0, 0), QRectF(23, 95, 171, 15));
     }
     void anEndlessPositionPaintsAsFarAsTheWindowGoes()
     {
