@@ -177,7 +177,8 @@ void Application::loadGuide()
         return;
     }
     guide->load({ m_options.guideFile, m_options.playlistFile, m_language, m_shell->clock()->now() });
-    // A file that is no guide, or no playlist, is refused without a window flashing up; a long one shows its progress soon.
+    // A file that is no guide, or no playlist, is refused without a window flashing up; a long one shows its
+    // progress soon.
     QTimer::singleShot(200, m_view.get(), &QWindow::show);
 }
 

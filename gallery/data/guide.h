@@ -25,9 +25,9 @@ struct Channel
     QString number;
     /*! The channel's picture: a web address or an existing local file; empty when there is none. */
     QUrl icon;
-    /*! The group that a playlist puts the channel in ("News"); else empty. */
+    /*! The group that the channel is in ("News"), as a playlist tells; else empty. */
     QString group = {};
-    /*! The quality that a playlist tells ("HD", "4K"); else empty. */
+    /*! The quality ("HD", "4K"), as a playlist tells; else empty. */
     QString quality = {};
     /*! Whether it takes a code to watch it, as a playlist tells. */
     bool locked = false;

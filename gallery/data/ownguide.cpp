@@ -37,10 +37,14 @@ public:
     void writeChannel(const QJsonValue &channel)
     {
         const QString id = channel[QLatin1String("id")].toString();
-        m_guide->addChannel({ id,
-                              localized(channel[QLatin1String("name")], m_language),
-                              channel[QLatin1String("number")].toString(),
-                              {} });
+        Channel shown;
+        shown.id = id;
+        shown.name = localized(channel[QLatin1String("name")], m_language);
+        shown.number = channel[QLatin1String("number")].toString();
+        shown.group = localized(channel[QLatin1String("group")], m_language);
+        shown.quality = channel[QLatin1String("quality")].toString();
+        shown.locked = channel[QLatin1String("locked")].toBool();
+        m_guide->addChannel(shown);
         const std::vector<Start> starts = startsOf(channel[QLatin1String("day")].toArray());
         for (size_t i = 0; i + 1 < starts.size(); ++i) {
             const TimeSpan time { starts[i].time, starts[i + 1].time };

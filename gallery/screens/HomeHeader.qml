@@ -27,6 +27,10 @@ Item {
             focused: header.home.inHeader && header.home.entry === HomeController.GuideEntry
             text: qsTr("TV guide")
         }
+        Entry {
+            focused: header.home.inHeader && header.home.entry === HomeController.ChannelsEntry
+            text: qsTr("Channels")
+        }
     }
     Label {
         anchors.right: clock.left

@@ -54,6 +54,7 @@ QtObject {
     readonly property color textOnFocus: QmlDesignSystem.colors.oslo
 
     readonly property int captionSpacing: QmlDesignSystem.contentTileStyle.style.captionSpacing
+    readonly property rect channelLogo: QmlDesignSystem.playerTvChannelItemStyle.style.logoRect
     readonly property rect rowTextArea: QmlDesignSystem.playerEpgDelegateStyle.style.previewRect
     // qmllint enable type
 
@@ -61,5 +62,11 @@ QtObject {
     readonly property PlayerEpgDelegateQmlStyle focusedRow: FocusedRowStyle {
         base: QmlDesignSystem.playerEpgDelegateStyle
         color: Look.textOnFocus
+    }
+    // Of the row of channels that has the focus.
+    readonly property PlayerTvChannelItemQmlStyle focusedChannel: FocusedChannelStyle {
+        base: QmlDesignSystem.playerTvChannelItemStyle
+        color: Look.textOnFocus
+        plateColor: Look.focus
     }
 }

@@ -10,6 +10,7 @@ Item {
     // Takes the place of the day where that does not fit.
     required property string shortDayText
     required property string clockText
+    property string title: qsTr("TV guide")
 
     height: clock.height
 
@@ -18,7 +19,7 @@ Item {
 
         anchors.left: parent.left
         anchors.baseline: clock.baseline
-        text: qsTr("TV guide")
+        text: header.title
         font: Look.headline
     }
     Label {

@@ -42,5 +42,13 @@ FocusScope {
             guide: shell.controller.guide
         }
     }
+    ScreenLoader {
+        controller: shell.controller
+        name: "channels"
+        sourceComponent: ChannelsScreen {
+            channels: shell.controller.channels
+            guide: shell.controller.guide
+        }
+    }
     // qmllint enable unqualified
 }

@@ -120,12 +120,14 @@ bool HomeController::pressInHeader(int key)
     if (isSelectKey(key)) {
         if (m_entry == GuideEntry)
             Q_EMIT guideRequested();
+        else if (m_entry == ChannelsEntry)
+            Q_EMIT channelsRequested();
         else
             setInHeader(false);
         return true;
     }
     if (const int step = readingStep(key, m_mirrored)) {
-        m_entry = step > 0 ? GuideEntry : HomeEntry;
+        m_entry = Entry(std::clamp(m_entry + step, int(HomeEntry), int(ChannelsEntry)));
         Q_EMIT selectionChanged();
         return true;
     }

@@ -40,7 +40,7 @@ class HomeController : public QObject
     QML_ELEMENT
     QML_UNCREATABLE("The shell has it.")
 public:
-    enum Entry { HomeEntry, GuideEntry };
+    enum Entry { HomeEntry, GuideEntry, ChannelsEntry };
     Q_ENUM(Entry)
 
     /*! \a clock and \a favourites outlive this object. */
@@ -92,6 +92,7 @@ Q_SIGNALS:
     /*! The current item is to be shown on its own. */
     void itemOpened();
     void guideRequested();
+    void channelsRequested();
     void leaveRequested();
 
 private:

@@ -40,6 +40,21 @@ QString episodeText(const MediaItem &item)
     return QCoreApplication::translate("MediaItem", "Season %1, episode %2").arg(item.season).arg(item.episode);
 }
 
+MediaItem::Kind kindOf(CatalogueEntry::Kind kind)
+{
+    switch (kind) {
+    case CatalogueEntry::Kind::Series:
+        return MediaItem::Kind::Series;
+    case CatalogueEntry::Kind::Episode:
+        return MediaItem::Kind::Episode;
+    case CatalogueEntry::Kind::Film:
+        break;
+    }
+    return MediaItem::Kind::Film;
+}
+
+} // namespace
+
 MediaItem programmeItem(const Guide &guide, int channel, int index, const QDateTime &now)
 {
     const Programme programme = guide.programme(channel, index);
@@ -58,21 +73,6 @@ MediaItem programmeItem(const Guide &guide, int channel, int index, const QDateT
     item.duration = double(programme.time.stop - programme.time.start);
     return item;
 }
-
-MediaItem::Kind kindOf(CatalogueEntry::Kind kind)
-{
-    switch (kind) {
-    case CatalogueEntry::Kind::Series:
-        return MediaItem::Kind::Series;
-    case CatalogueEntry::Kind::Episode:
-        return MediaItem::Kind::Episode;
-    case CatalogueEntry::Kind::Film:
-        break;
-    }
-    return MediaItem::Kind::Film;
-}
-
-} // namespace
 
 double MediaItem::progress() const
 {

@@ -47,6 +47,8 @@ struct MediaItem
     friend bool operator==(const MediaItem &, const MediaItem &) = default;
 };
 
+/*! The programme \a index of \a channel in \a guide, as it is at \a now. */
+MediaItem programmeItem(const Guide &guide, int channel, int index, const QDateTime &now);
 /*! What is on each channel of \a guide at \a now; channels with nothing on are left out. */
 QList<MediaItem> programmesAt(const Guide &guide, const QDateTime &now);
 /*! The entry \a index of \a catalogue. */

@@ -5,6 +5,7 @@
 #include <QtCore/qmutex.h>
 #include <QtCore/qset.h>
 #include <QtGui/qimagereader.h>
+#include <QtGui/qpainter.h>
 
 #include <utility>
 
@@ -85,6 +86,14 @@ QImage forRenderer(QImage image)
                                                                     : QImage::Format_RGB32);
 }
 
+QImage framed(const QImage &picture, const QSize &frame)
+{
+    QImage image(frame, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter(&image).drawImage(middle(frame, picture.size()), picture);
+    return image;
+}
+
 } // namespace
 
 DecodedPicture decodePicture(QIODevice *device, const PictureShape &shape)
@@ -117,7 +126,7 @@ DecodedPicture decodePicture(QIODevice *device, const PictureShape &shape)
     // The JPEG decoder makes the missing part of a picture grey and is content.
     if (format == "jpeg" && guarded.takeStarved())
         return { {}, QStringLiteral("the picture is cut off") };
-    return { forRenderer(std::move(image)), {} };
+    return { shape.frame.isEmpty() ? forRenderer(std::move(image)) : framed(image, shape.frame), {} };
 }
 
 } // namespace gallery

@@ -16,6 +16,8 @@ struct PictureShape
     QSize size;
     /*! The whole picture within the size, instead of as much of it as fills the size. */
     bool whole = false;
+    /*! What comes out is of this size, with the picture in its middle and nothing around it; empty: no more than that. */
+    QSize frame = {};
 };
 
 struct DecodedPicture

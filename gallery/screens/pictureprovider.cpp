@@ -21,6 +21,7 @@ constexpr int largestSide = 4096;
 constexpr QLatin1String widthKey("width");
 constexpr QLatin1String heightKey("height");
 constexpr QLatin1String wholeKey("whole");
+constexpr QLatin1String marginKey("margin");
 
 struct Request
 {
@@ -29,7 +30,7 @@ struct Request
 };
 
 // The picture's address is written in base 64, because an address is decoded and encoded on its way here.
-QUrl addressOf(const QUrl &picture, const QSize &size, bool whole)
+QUrl addressOf(const QUrl &picture, const QSize &size, QLatin1String extraKey = {}, int extra = 1)
 {
     if (picture.isEmpty())
         return {};
@@ -38,8 +39,8 @@ QUrl addressOf(const QUrl &picture, const QSize &size, bool whole)
     QUrlQuery query;
     query.addQueryItem(widthKey, QString::number(size.width()));
     query.addQueryItem(heightKey, QString::number(size.height()));
-    if (whole)
-        query.addQueryItem(wholeKey, QString::number(1));
+    if (!extraKey.isEmpty())
+        query.addQueryItem(extraKey, QString::number(extra));
     QUrl url;
     url.setScheme(QStringLiteral("image"));
     url.setHost(PictureProvider::name());
@@ -57,7 +58,13 @@ Request requestOf(const QString &id, const QSize &requestedSize)
     Request request;
     request.picture = QUrl::fromEncoded(QByteArray::fromBase64(code, QByteArray::Base64UrlEncoding));
     request.shape.size = size.isEmpty() ? QSize() : size.boundedTo({ largestSide, largestSide });
-    request.shape.whole = query.hasQueryItem(wholeKey);
+    request.shape.whole = query.hasQueryItem(wholeKey) || query.hasQueryItem(marginKey);
+    if (query.hasQueryItem(marginKey)) {
+        const int margin = std::clamp(query.queryItemValue(marginKey).toInt(), 0, largestSide);
+        request.shape.frame = request.shape.size;
+        request.shape.size = request.shape.size.shrunkBy({ margin, margin, margin, margin })
+                                     .expandedTo({ 1, 1 });
+    }
     return request;
 }
 
@@ -260,12 +267,17 @@ void PictureProvider::cancelDownload(quint64 id)
 
 QUrl Pictures::filling(const QUrl &picture, int width, int height)
 {
-    return addressOf(picture, { width, height }, false);
+    return addressOf(picture, { width, height });
 }
 
 QUrl Pictures::fitting(const QUrl &picture, int width, int height)
 {
-    return addressOf(picture, { width, height }, true);
+    return addressOf(picture, { width, height }, wholeKey);
+}
+
+QUrl Pictures::framed(const QUrl &picture, int width, int height, int margin)
+{
+    return addressOf(picture, { width, height }, marginKey, margin);
 }
 
 } // namespace gallery

@@ -61,6 +61,11 @@ public:
     Q_INVOKABLE static QUrl filling(const QUrl &picture, int width, int height);
     /*! The whole of \a picture, at most \a width x \a height pixels large. Empty for an empty one. */
     Q_INVOKABLE static QUrl fitting(const QUrl &picture, int width, int height);
+    /*!
+        The whole of \a picture in the middle of exactly \a width x \a height pixels, at least \a margin pixels from
+        their edges; what it leaves is transparent. Empty for an empty one.
+    */
+    Q_INVOKABLE static QUrl framed(const QUrl &picture, int width, int height, int margin);
 };
 
 } // namespace gallery

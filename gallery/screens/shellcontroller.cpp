@@ -10,6 +10,7 @@ namespace {
 constexpr QLatin1StringView homeScreen = "home"_L1;
 constexpr QLatin1StringView detailScreen = "detail"_L1;
 constexpr QLatin1StringView guideScreen = "guide"_L1;
+constexpr QLatin1StringView channelsScreen = "channels"_L1;
 
 } // namespace
 
@@ -18,11 +19,13 @@ ShellController::ShellController(QObject *parent)
     , m_home(&m_clock, &m_favourites)
     , m_detail(&m_favourites, &m_likes)
     , m_guide(&m_clock)
+    , m_channels(&m_clock)
     , m_open({ homeScreen })
 {
     const auto openGuide = [this] { open(guideScreen); };
     connect(&m_home, &HomeController::itemOpened, this, &ShellController::openItem);
     connect(&m_home, &HomeController::guideRequested, this, openGuide);
+    connect(&m_home, &HomeController::channelsRequested, this, [this] { open(channelsScreen); });
     connect(&m_home, &HomeController::leaveRequested, this, &ShellController::leaveRequested);
     connect(&m_home, &HomeController::itemsChanged, this, [this] {
         if (const MediaItem *item = m_home.find(m_detail.item().id))
@@ -30,13 +33,18 @@ ShellController::ShellController(QObject *parent)
     });
     connect(&m_detail, &DetailController::guideRequested, this, openGuide);
     connect(&m_detail, &DetailController::backRequested, this, &ShellController::goBack);
-    connect(&m_guide, &GuideController::guideShown, this, [this] { m_home.setGuide(m_guide.shownGuide()); });
+    connect(&m_guide, &GuideController::guideShown, this, [this] {
+        m_home.setGuide(m_guide.shownGuide());
+        m_channels.setGuide(m_guide.shownGuide());
+    });
     connect(&m_guide, &GuideController::leaveRequested, this, &ShellController::goBack);
+    connect(&m_channels, &ChannelsController::playRequested, this, &ShellController::openPlayer);
+    connect(&m_channels, &ChannelsController::leaveRequested, this, &ShellController::goBack);
 }
 
 QStringList ShellController::screenNames()
 {
-    return { homeScreen, detailScreen, guideScreen };
+    return { homeScreen, detailScreen, guideScreen, channelsScreen };
 }
 
 void ShellController::setMirrored(bool mirrored)
@@ -47,6 +55,7 @@ void ShellController::setMirrored(bool mirrored)
     m_home.setMirrored(mirrored);
     m_detail.setMirrored(mirrored);
     m_guide.setMirrored(mirrored);
+    m_channels.setMirrored(mirrored);
     Q_EMIT mirroredChanged();
 }
 
@@ -55,12 +64,13 @@ void ShellController::start(const QString &screen)
     m_open = { homeScreen };
     m_home.start();
     m_guide.start();
+    m_channels.start();
     Q_EMIT screenChanged();
     if (screen == detailScreen) {
         m_home.chooseFirstVideo();
         openItem();
-    } else if (screen == guideScreen) {
-        open(guideScreen);
+    } else if (screen != homeScreen && screenNames().contains(screen)) {
+        open(screen);
     }
 }
 

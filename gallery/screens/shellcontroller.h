@@ -3,6 +3,7 @@
 #define GALLERY_SCREENS_SHELLCONTROLLER_H
 
 #include "gallery/data/clock.h"
+#include "screens/channelscontroller.h"
 #include "screens/detailcontroller.h"
 #include "screens/guidecontroller.h"
 #include "screens/homecontroller.h"
@@ -22,6 +23,7 @@ class ShellController : public QObject
     Q_PROPERTY(gallery::HomeController *home READ home CONSTANT)
     Q_PROPERTY(gallery::DetailController *detail READ detail CONSTANT)
     Q_PROPERTY(gallery::GuideController *guide READ guide CONSTANT)
+    Q_PROPERTY(gallery::ChannelsController *channels READ channels CONSTANT)
     /*! The name of the screen that is shown. */
     Q_PROPERTY(QString screen READ screen NOTIFY screenChanged)
     /*! The names of the screens that are open, the one that is shown last. */
@@ -33,13 +35,14 @@ class ShellController : public QObject
 public:
     explicit ShellController(QObject *parent = nullptr);
 
-    /*! The names of the screens: "home", "detail", "guide". */
+    /*! The names of the screens: "home", "detail", "guide", "channels". */
     static QStringList screenNames();
 
     Clock *clock() { return &m_clock; }
     HomeController *home() { return &m_home; }
     DetailController *detail() { return &m_detail; }
     GuideController *guide() { return &m_guide; }
+    ChannelsController *channels() { return &m_channels; }
 
     QString screen() const { return m_open.constLast(); }
     QStringList openScreens() const { return m_open; }
@@ -74,6 +77,7 @@ private:
     HomeController m_home;
     DetailController m_detail;
     GuideController m_guide;
+    ChannelsController m_channels;
     QStringList m_open;
     bool m_mirrored = false;
 };

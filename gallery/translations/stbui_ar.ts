@@ -2,6 +2,49 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ar_AE" sourcelanguage="en">
 <context>
+    <name>ChannelFacts</name>
+    <message>
+        <source>Nothing is known of what is on</source>
+        <translation>لا تتوفر معلومات عما يعرض الآن</translation>
+    </message>
+</context>
+<context>
+    <name>ChannelsScreen</name>
+    <message>
+        <source>Channels</source>
+        <translation>القنوات</translation>
+    </message>
+    <message>
+        <source>There are no channels</source>
+        <translation>لا توجد قنوات</translation>
+    </message>
+    <message>
+        <source>This channel is locked</source>
+        <translation>هذه القناة مقفلة</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>المجموعة</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>القناة</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>الرقم</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Watch</source>
+        <translation>مشاهدة</translation>
+    </message>
+</context>
+<context>
     <name>DetailScreen</name>
     <message>
         <source>Watch</source>
@@ -38,6 +81,13 @@
     <message>
         <source>There is no player in this gallery.</source>
         <translation>لا يوجد مشغّل في هذا المعرض.</translation>
+    </message>
+</context>
+<context>
+    <name>GroupTabs</name>
+    <message>
+        <source>All</source>
+        <translation>الكل</translation>
     </message>
 </context>
 <context>
@@ -105,6 +155,10 @@
     <message>
         <source>TV guide</source>
         <translation>دليل البرامج</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>القنوات</translation>
     </message>
     <message>
         <source>Press BACK again to leave</source>

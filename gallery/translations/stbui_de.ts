@@ -2,6 +2,49 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
+    <name>ChannelFacts</name>
+    <message>
+        <source>Nothing is known of what is on</source>
+        <translation>Über die laufende Sendung ist nichts bekannt</translation>
+    </message>
+</context>
+<context>
+    <name>ChannelsScreen</name>
+    <message>
+        <source>Channels</source>
+        <translation>Sender</translation>
+    </message>
+    <message>
+        <source>There are no channels</source>
+        <translation>Es gibt keine Sender</translation>
+    </message>
+    <message>
+        <source>This channel is locked</source>
+        <translation>Dieser Sender ist gesperrt</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Sender</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nummer</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Watch</source>
+        <translation>Ansehen</translation>
+    </message>
+</context>
+<context>
     <name>DetailScreen</name>
     <message>
         <source>Watch</source>
@@ -38,6 +81,13 @@
     <message>
         <source>There is no player in this gallery.</source>
         <translation>In dieser Galerie gibt es keinen Player.</translation>
+    </message>
+</context>
+<context>
+    <name>GroupTabs</name>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
     </message>
 </context>
 <context>
@@ -105,6 +155,10 @@
     <message>
         <source>TV guide</source>
         <translation>TV-Programm</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Sender</translation>
     </message>
     <message>
         <source>Press BACK again to leave</source>

@@ -2,6 +2,49 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_GB" sourcelanguage="en">
 <context>
+    <name>ChannelFacts</name>
+    <message>
+        <source>Nothing is known of what is on</source>
+        <translation>Nothing is known of what is on</translation>
+    </message>
+</context>
+<context>
+    <name>ChannelsScreen</name>
+    <message>
+        <source>Channels</source>
+        <translation>Channels</translation>
+    </message>
+    <message>
+        <source>There are no channels</source>
+        <translation>There are no channels</translation>
+    </message>
+    <message>
+        <source>This channel is locked</source>
+        <translation>This channel is locked</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Group</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Channel</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Number</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Watch</source>
+        <translation>Watch</translation>
+    </message>
+</context>
+<context>
     <name>DetailScreen</name>
     <message>
         <source>Watch</source>
@@ -38,6 +81,13 @@
     <message>
         <source>There is no player in this gallery.</source>
         <translation>There is no player in this gallery.</translation>
+    </message>
+</context>
+<context>
+    <name>GroupTabs</name>
+    <message>
+        <source>All</source>
+        <translation>All</translation>
     </message>
 </context>
 <context>
@@ -105,6 +155,10 @@
     <message>
         <source>TV guide</source>
         <translation>TV guide</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Channels</translation>
     </message>
     <message>
         <source>Press BACK again to leave</source>

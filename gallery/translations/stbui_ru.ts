@@ -2,6 +2,49 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU" sourcelanguage="en">
 <context>
+    <name>ChannelFacts</name>
+    <message>
+        <source>Nothing is known of what is on</source>
+        <translation>Нет данных о том, что идёт сейчас</translation>
+    </message>
+</context>
+<context>
+    <name>ChannelsScreen</name>
+    <message>
+        <source>Channels</source>
+        <translation>Каналы</translation>
+    </message>
+    <message>
+        <source>There are no channels</source>
+        <translation>Каналов нет</translation>
+    </message>
+    <message>
+        <source>This channel is locked</source>
+        <translation>Этот канал заблокирован</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Группа</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Канал</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Номер</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Watch</source>
+        <translation>Смотреть</translation>
+    </message>
+</context>
+<context>
     <name>DetailScreen</name>
     <message>
         <source>Watch</source>
@@ -38,6 +81,13 @@
     <message>
         <source>There is no player in this gallery.</source>
         <translation>В этой галерее нет плеера.</translation>
+    </message>
+</context>
+<context>
+    <name>GroupTabs</name>
+    <message>
+        <source>All</source>
+        <translation>Все</translation>
     </message>
 </context>
 <context>
@@ -105,6 +155,10 @@
     <message>
         <source>TV guide</source>
         <translation>Телепрограмма</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Каналы</translation>
     </message>
     <message>
         <source>Press BACK again to leave</source>

@@ -232,7 +232,7 @@ private Q_SLOTS:
 
     void everyScreenCanBeNamed()
     {
-        QCOMPARE(gallery::screenNames(), (QStringList { "home", "detail", "guide" }));
+        QCOMPARE(gallery::screenNames(), (QStringList { "home", "detail", "guide", "channels" }));
         for (const QString &name : gallery::screenNames())
             QCOMPARE(parse({ "--screen", name }).options.screen, name);
     }

@@ -191,8 +191,12 @@ private Q_SLOTS:
         m->press({ Qt::Key_Right, Qt::Key_Up });
         QVERIFY(m->home.isInHeader());
         QCOMPARE(m->home.entry(), HomeController::HomeEntry);
-        m->press({ Qt::Key_Up, Qt::Key_Right, Qt::Key_Right });
+        m->press({ Qt::Key_Up, Qt::Key_Right });
         QCOMPARE(m->home.entry(), HomeController::GuideEntry);
+        m->press({ Qt::Key_Right, Qt::Key_Right });
+        QCOMPARE(m->home.entry(), HomeController::ChannelsEntry);
+        m->press({ Qt::Key_Left, Qt::Key_Left, Qt::Key_Left });
+        QCOMPARE(m->home.entry(), HomeController::HomeEntry);
         m->press({ Qt::Key_Down });
         QVERIFY(!m->home.isInHeader());
         QCOMPARE(m->home.title(), "B25");
@@ -206,6 +210,14 @@ private Q_SLOTS:
         QCOMPARE(requests.count(), 0);
         QVERIFY(!m->home.isInHeader());
         m->press({ Qt::Key_Up, Qt::Key_Right, Qt::Key_Return });
+        QCOMPARE(requests.count(), 1);
+    }
+
+    void theHeaderLeadsToTheChannels()
+    {
+        m->fill();
+        QSignalSpy requests(&m->home, &HomeController::channelsRequested);
+        m->press({ Qt::Key_Up, Qt::Key_Right, Qt::Key_Right, Qt::Key_Return });
         QCOMPARE(requests.count(), 1);
     }
 

@@ -44,6 +44,8 @@ private Q_SLOTS:
         QCOMPARE(m->openScreens(), (QStringList { "home", "guide" }));
         m->start("detail");
         QCOMPARE(m->openScreens(), (QStringList { "home", "detail" }));
+        m->start("channels");
+        QCOMPARE(m->openScreens(), (QStringList { "home", "channels" }));
         m->start("home");
         QCOMPARE(m->openScreens(), QStringList { "home" });
     }
@@ -101,6 +103,18 @@ private Q_SLOTS:
         QCOMPARE(m->screen(), "detail");
     }
 
+    void theChannelsAreThoseOfTheGuideAndBackLeadsHome()
+    {
+        fill();
+        for (const Qt::Key key : { Qt::Key_Up, Qt::Key_Right, Qt::Key_Right, Qt::Key_Return })
+            m->home()->press(key);
+        QCOMPARE(m->screen(), "channels");
+        QCOMPARE(m->channels()->channels()->rowCount(), 5);
+        m->channels()->press(Qt::Key_Back);
+        QCOMPARE(m->screen(), "home");
+        QVERIFY(m->home()->isInHeader());
+    }
+
     void onlyTheHomeScreenLeaves()
     {
         fill();
@@ -144,6 +158,7 @@ private Q_SLOTS:
         m->setMirrored(true);
         QCOMPARE(changes.count(), 1);
         QVERIFY(m->home()->isMirrored() && m->detail()->isMirrored() && m->guide()->isMirrored());
+        QVERIFY(m->channels()->isMirrored());
     }
 
     void aStartBringsTheGuideBackToWhatIsOn()

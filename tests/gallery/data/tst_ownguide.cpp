@@ -19,6 +19,7 @@ private Q_SLOTS:
     void everyMinuteOfThreeDaysHasItsProgramme_data();
     void everyMinuteOfThreeDaysHasItsProgramme();
     void itHasEightChannelsWithNumbersAndNames();
+    void itsChannelsAreInGroupsAndOneIsLocked();
     void everyProgrammeOfTheTemplateIsOn();
     void everyProgrammeHasItsTexts_data();
     void everyProgrammeHasItsTexts();
@@ -123,6 +124,28 @@ void TestOwnGuide::itHasEightChannelsWithNumbersAndNames()
     QCOMPARE(guide.channel(0).name, QStringLiteral("News"));
     for (int channel = 0; channel < 8; ++channel)
         QCOMPARE(guide.channel(channel).number, QString::number(channel + 1));
+}
+
+void TestOwnGuide::itsChannelsAreInGroupsAndOneIsLocked()
+{
+    QSet<QString> all;
+    for (const char *language : { "en", "de", "ru", "ar" }) {
+        const Guide guide = ownGuide(local("2026-05-13T20:05:00"), QLatin1String(language));
+        QSet<QString> groups;
+        int locked = 0;
+        int withQuality = 0;
+        for (int channel = 0; channel < guide.channelCount(); ++channel) {
+            QVERIFY(!guide.channel(channel).group.isEmpty());
+            groups.insert(guide.channel(channel).group);
+            locked += int(guide.channel(channel).locked);
+            withQuality += int(!guide.channel(channel).quality.isEmpty());
+        }
+        QCOMPARE(groups.size(), 4);
+        QVERIFY(!all.intersects(groups));
+        all += groups;
+        QCOMPARE(locked, 1);
+        QCOMPARE(withQuality, 6);
+    }
 }
 
 void TestOwnGuide::everyProgrammeOfTheTemplateIsOn()

@@ -24,6 +24,8 @@ private Q_SLOTS:
     void aPictureFillsTheSizeFromItsMiddle_data();
     void aPictureFillsTheSizeFromItsMiddle();
     void aWholePictureFitsTheSize();
+    void aFramedPictureStandsWholeInTheMiddle();
+    void aFrameWithoutRoomLeavesAPixel();
     void aPictureIsNeverMadeLarger_data();
     void aPictureIsNeverMadeLarger();
     void withoutASizeAPictureIsAsLargeAsAScreen();
@@ -135,6 +137,30 @@ void TestPictureProvider::aWholePictureFitsTheSize()
     QCOMPARE(request.image().size(), QSize(60, 20));
 }
 
+void TestPictureProvider::aFramedPictureStandsWholeInTheMiddle()
+{
+    PictureEngine engine;
+    const PictureRequest request(&engine, Pictures::framed(file(m_stripes), 70, 50, 5));
+    QTRY_VERIFY(request.isOver());
+    const QImage image = request.image();
+    QCOMPARE(image.size(), QSize(70, 50));
+    QCOMPARE(image.pixelColor(35, 14), QColor(Qt::transparent)); // 60 x 20 pixels from 5, 15
+    QCOMPARE(image.pixelColor(35, 35), QColor(Qt::transparent));
+    QCOMPARE(image.pixelColor(4, 25), QColor(Qt::transparent));
+    QCOMPARE(image.pixelColor(65, 25), QColor(Qt::transparent));
+    QCOMPARE(image.pixelColor(8, 25), QColor(255, 0, 0));
+    QCOMPARE(image.pixelColor(35, 25), QColor(0, 255, 0));
+    QCOMPARE(image.pixelColor(62, 25), QColor(0, 0, 255));
+}
+
+void TestPictureProvider::aFrameWithoutRoomLeavesAPixel()
+{
+    PictureEngine engine;
+    const PictureRequest request(&engine, Pictures::framed(file(m_stripes), 20, 10, 300));
+    QTRY_VERIFY(request.isOver());
+    QCOMPARE(request.image().size(), QSize(20, 10));
+}
+
 void TestPictureProvider::aPictureIsNeverMadeLarger_data()
 {
     QTest::addColumn<QUrl>("url");
@@ -177,6 +203,7 @@ void TestPictureProvider::anEmptyAddressStaysEmpty()
 {
     QCOMPARE(Pictures::filling(QUrl(), 30, 30), QUrl());
     QCOMPARE(Pictures::fitting(QUrl(), 30, 30), QUrl());
+    QCOMPARE(Pictures::framed(QUrl(), 30, 30, 3), QUrl());
 }
 
 void TestPictureProvider::whatIsNoPictureGivesNone_data()

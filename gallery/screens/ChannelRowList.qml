@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+import Stbui.UI.Qml.Controls.Basic
+import Stbui.UI.Qml.Design
+import Gallery
+
+// Channels one below the other, each with its logo and what is on.
+ListView {
+    id: list
+
+    required property ChannelsController controller
+
+    readonly property int rowHeight: 2 * Look.channelLogo.y + Look.channelLogo.height
+    readonly property int visibleRows: Math.max(1, Math.floor(height / rowHeight))
+
+    interactive: false
+    clip: true
+    // Rows made ahead of need would still be on their way when the model is reset, which Qt warns of.
+    cacheBuffer: 0
+    // The chosen row stays in the middle as far as the ends of the list allow, at once: a view that follows a
+    // highlight gets there in steps of an animation, and is elsewhere when a key comes in between.
+    highlightFollowsCurrentItem: false
+    onCurrentItemChanged: positionViewAtIndex(currentIndex, ListView.Center)
+    onHeightChanged: positionViewAtIndex(currentIndex, ListView.Center)
+    model: controller.channels
+    currentIndex: controller.channelRow
+    delegate: Item {
+        id: row
+
+        required property int channel
+        required property string name
+        required property string number
+        required property url logo
+        required property string quality
+        required property bool locked
+        required property string programme
+        required property double progress
+        required property bool playing
+
+        objectName: "channelRow"
+        width: ListView.view.width
+        height: 2 * Look.channelLogo.y + Look.channelLogo.height
+        Accessible.role: Accessible.ListItem
+        Accessible.name: number + " " + name
+
+        FocusPlate {
+            anchors.fill: parent
+            visible: row.ListView.isCurrentItem
+        }
+        // Under logos, which may be dark or bright and have holes.
+        Rectangle {
+            x: Look.channelLogo.x
+            y: Look.channelLogo.y
+            width: Look.channelLogo.width
+            height: Look.channelLogo.height
+            visible: row.logo.toString().length > 0
+            color: Look.raised
+        }
+        // With Qt 6.4 a component cannot say that it belongs where it stands; the linter asks for that.
+        // qmllint disable unqualified
+        TvChannelViewDelegate {
+            anchors.fill: parent
+            style: row.ListView.isCurrentItem ? Look.focusedChannel : QmlDesignSystem.playerTvChannelItemStyle
+            imageSource: Pictures.framed(row.logo, Look.channelLogo.width, Look.channelLogo.height, Look.small)
+            canvas: sheet.canvas(row.channel)
+            cachedChannelRect: sheet.cell(row.channel)
+            channelListChannelName: row.name
+            channelListChannelNumber: row.number
+            channelListChannelQuality: row.quality
+            channelListLockIconVisible: row.locked
+            channelListProgramName: row.programme
+            channelListProgramProgress: row.progress
+            channelListChannelLive: row.playing
+        }
+        // qmllint enable unqualified
+    }
+
+    LogoSheet {
+        id: sheet
+
+        controller: list.controller
+        // qmllint disable type
+        cellSize: Qt.size(Look.channelLogo.width, Look.channelLogo.height)
+        // qmllint enable type
+        font: Look.heading
+        color: Look.text
+        plate: Qt.darker(Look.accent, 2.3)
+    }
+}
