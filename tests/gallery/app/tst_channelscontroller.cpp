@@ -3,6 +3,7 @@
 #include "testkit/testcase.h"
 
 #include "gallery/data/clock.h"
+#include "screens/channelnowmodel.h"
 #include "screens/channelscontroller.h"
 
 #include <QtCore/qrandom.h>
@@ -101,6 +102,17 @@ private Q_SLOTS:
             names.insert(name);
         QCOMPARE(names, (QSet<QByteArray> { "channel", "name", "number", "logo", "quality", "locked",
                                             "programme", "progress", "playing" }));
+    }
+
+    void theGuidesChannelsKeepTheirGroupsBesideWhatIsOn()
+    {
+        gallery::ChannelNowModel model;
+        model.setGuide(channels::guide(channels::seven()));
+        model.setNow(guides::at(20, 5));
+        const QList<QByteArray> names = model.roleNames().values();
+        QVERIFY(names.contains("group") && names.contains("nowTitle"));
+        QCOMPARE(model.index(1).data(model.roleNames().key("group")), "Sport");
+        QCOMPARE(model.index(1).data(model.roleNames().key("nowTitle")), "s140");
     }
 
     void aChannelWithNothingOnHasNoProgrammeAndNoProgress()

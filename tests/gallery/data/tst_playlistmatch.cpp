@@ -223,7 +223,8 @@ void TestPlaylistMatch::theModelsShowTheMatch()
     QCOMPARE(value(0, ChannelModel::QualityRole), QVariant(QString()));
     QCOMPARE(channels.roleNames().value(ChannelModel::GroupRole), QByteArray("group"));
     QCOMPARE(channels.roleNames().value(ChannelModel::QualityRole), QByteArray("quality"));
-    QCOMPARE(channels.data(channels.index(0), ChannelModel::LockedRole), QVariant(true));
+    QCOMPARE(value(1, ChannelModel::LockedRole), QVariant(true));
+    QCOMPARE(value(0, ChannelModel::LockedRole), QVariant(false));
     QCOMPARE(channels.roleNames().value(ChannelModel::LockedRole), QByteArray("locked"));
     ProgrammeModel programmes;
     programmes.setGuide(guide);
