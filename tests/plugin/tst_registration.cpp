@@ -80,8 +80,10 @@ private Q_SLOTS:
     void everyComponentStandsInTheResourcesAndResolves_data()
     {
         QTest::addColumn<QString>("file");
-        QTest::newRow("PrimaryButton") << "qml/PrimaryButton.qml";
-        QTest::newRow("StandardButton") << "qml/StandardButton.qml";
+        for (const char *name :
+             { "BusyIndicator", "CheckBox", "CircleProgressBar", "LineEdit", "MainMenuButton",
+               "MainMenuEffect", "PrimaryButton", "RadioButton", "StandardButton", "TabButton" })
+            QTest::newRow(name) << QStringLiteral("qml/%1.qml").arg(QLatin1String(name));
         QTest::newRow("PlayerButton") << "qml/Experimental/PlayerButton.qml";
     }
     void everyComponentStandsInTheResourcesAndResolves()
@@ -172,6 +174,7 @@ private Q_SLOTS:
                                   "QQmlListProperty<StbHorizontalEpgViewDelegate>",
                                   "design_system::PlayerHorizontalEpgViewQmlStyle*",
                                   "StbTvChannelViewDelegate*",
+                                  "QList<QColor>",
                                   "QQmlListProperty<StbTvChannelViewDelegate>",
                                   "design_system::PlayerTvChannelItemQmlStyle*" })
             QVERIFY2(QMetaType::fromName(name).isValid(), name);
@@ -184,11 +187,12 @@ private Q_SLOTS:
         QCOMPARE(qmldir, read(QFileInfo(STBTEST_PLUGIN).dir().filePath("qmldir")));
     }
 
-    void theResourceSetHasItsOwnFunctions()
+    void theResourceSetsAndTheUnitsHaveTheirOwnFunctions()
     {
         // The names are what a statically linked program calls; that they link is the test.
-        QVERIFY(qInitQmldir());
+        QVERIFY(qInitAll());
         QVERIFY(QFile::exists(":/Stbui/UI/Qml/Controls/Basic/qmldir"));
+        QVERIFY(QFile::exists(":/Stbui/UI/Qml/Controls/Basic/qml/CheckBox.qml"));
     }
 
     void thePluginFileIsNotLoadedBesideTheLinkedClasses()
@@ -201,14 +205,18 @@ private Q_SLOTS:
     }
 
 private:
-    static bool qInitQmldir();
+    static bool qInitAll();
 };
 
 // Q_INIT_RESOURCE declares the function where it stands, which must be outside any namespace or class.
 int qInitResources_qmake_Stbui_UI_Qml_Controls_Basic();
-bool tst_Registration::qInitQmldir()
+int qInitResources_qmlbasiccontrolsextensionplugin_raw_qml_0();
+int qInitResources_qmlcache_qmlbasiccontrolsextensionplugin();
+bool tst_Registration::qInitAll()
 {
-    return qInitResources_qmake_Stbui_UI_Qml_Controls_Basic() != 0;
+    return qInitResources_qmake_Stbui_UI_Qml_Controls_Basic() != 0
+           && qInitResources_qmlbasiccontrolsextensionplugin_raw_qml_0() != 0
+           && qInitResources_qmlcache_qmlbasiccontrolsextensionplugin() != 0;
 }
 
 STB_TEST_MAIN(tst_Registration)

@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: MIT
+#include "bindings.h"
+
+#include <QtCore/qhash.h>
+#include <QtCore/qnamespace.h>
+
+namespace {
+
+using Bindings = std::vector<Binding>;
+
+Bindings busyIndicator()
+{
+    const QByteArray name("BusyIndicator");
+    return {
+        { name, "animationInterval", literal(17) },
+        { name, "headerFont", fromDesign("busyIndicatorStyle.header.font") },
+        { name, "headerColor", fromDesign("busyIndicatorStyle.header.color") },
+        { name, "headerLeftMargin", fromDesign("busyIndicatorStyle.header.marginLeft") },
+        { name, "headerRightMargin", fromDesign("busyIndicatorStyle.header.marginRight") },
+        { name, "descriptionFont", fromDesign("busyIndicatorStyle.description.font") },
+        { name, "descriptionColor", fromDesign("busyIndicatorStyle.description.color") },
+        { name, "descriptionLeftMargin", fromDesign("busyIndicatorStyle.description.marginLeft") },
+        { name, "descriptionRightMargin", fromDesign("busyIndicatorStyle.description.marginRight") },
+        { name, "throbberWidth", fromDesign("busyIndicatorStyle.width") },
+        { name, "throbberHeight", fromDesign("busyIndicatorStyle.height") },
+        { name, "throbberPenWidth", fromDesign("busyIndicatorStyle.penWidth") },
+    };
+}
+
+Bindings checkBoxes()
+{
+    Bindings bindings {
+        { "CheckBox", "roundingRadius", roundedBy("roundingRadius") },
+        { "CheckBox", "iconPath", fromStyle("icon.path") },
+        { "CheckBox", "forceRounding", literal(false) },
+        { "RadioButton", "roundingRadius",
+          [](const Sources &sources) {
+              return designValue(sources.design, "standardCheckBoxStyle.icon.width").toInt() / 2.0;
+          } },
+        { "RadioButton", "iconPath", literal(QStringLiteral("qrc:/resources/icons/radio_button_mark.png")) },
+        { "RadioButton", "forceRounding", literal(true) }
+    };
+    for (const char *name : { "CheckBox", "RadioButton" }) {
+        bindings.insert(bindings.end(), {
+                                                { name, "indicatorSize", fromStyle("icon.size") },
+                                                { name, "indicatorColors", fromStyle("indicatorColors()") },
+                                                { name, "iconColors", fromStyle("iconColors()") },
+                                                { name, "titleFont", fromStyle("title.font") },
+                                                { name, "titleColors", fromStyle("titleColors()") },
+                                                { name, "spacing", fromStyle("spacing") },
+                                        });
+    }
+    return bindings;
+}
+
+Bindings lineEdit()
+{
+    const QByteArray name("LineEdit");
+    return {
+        { name, "roundingRadius", roundedBy("roundingRadius") },
+        { name, "backgroundColors", fromStyle("backgroundColors()") },
+        { name, "textColors", fromStyle("textColors()") },
+        { name, "placeholderTextColors", fromStyle("placeholderTextColors()") },
+        { name, "errorFrameWidth", fromStyle("errorFrameWidth") },
+        { name, "errorFrameColor", fromStyle("errorFrameColor") },
+        { name, "font", fromStyle("font") },
+        { name, "leftPadding", fromStyle("marginLeft") },
+        { name, "topPadding", fromStyle("marginTop") },
+        { name, "rightPadding", fromStyle("marginRight") },
+        { name, "bottomPadding", fromStyle("marginBottom") },
+        { name, "cursorWidth", fromStyle("cursorWidth") },
+    };
+}
+
+Bindings mainMenuButton()
+{
+    const QByteArray name("MainMenuButton");
+    const auto textColors = colorsOf({ "normalTextColor", "checkedTextColor", "focusedTextColor" });
+    return {
+        { name, "baseHeight", fromStyle("backgroundCheckedHeight") },
+        { name, "animateBackgroundColors", literal(false) },
+        { name, "animateTextColors", literal(false) },
+        { name, "backgroundColorsAnimationDuration", fromDesign("animation.duration") },
+        { name, "textColorsAnimationDuration", fromDesign("animation.duration") },
+        { name, "backgroundColors",
+          colorsOf({ "normalBackgroundColor", "checkedBackgroundColor", "focusedBackgroundColor" }) },
+        { name, "textFont", fromStyle("text.font") },
+        { name, "textColors", textColors },
+        { name, "leftIconColors", textColors },
+        { name, "leftIconSize", sizeOf("decorationGeometry") },
+        { name, "rightIconSize", sizeOf("decorationGeometry") },
+        { name, "rightIconRoundingRadius",
+          [](const Sources &sources) {
+              return designValue(sources.style, "decorationGeometry.width").toInt() / 2.0;
+          } },
+        { name, "leftPadding", fromStyle("leftPadding") },
+        { name, "rightPadding", fromStyle("rightPadding") },
+        { name, "topPadding", fromStyle("topPadding") },
+        { name, "bottomPadding", fromStyle("bottomPadding") },
+    };
+}
+
+Bindings tabButton()
+{
+    const QByteArray name("TabButton");
+    return {
+        { name, "animateBackgroundColors", literal(false) },
+        { name, "animateTextColors", literal(false) },
+        { name, "backgroundColor", fromStyle("backgroundNormalColor") },
+        { name, "backgroundFocusedColor", fromStyle("backgroundFocusedColor") },
+        { name, "backgroundSelectedColor", fromStyle("backgroundSelectedColor") },
+        { name, "textColor", fromStyle("textNormalColor") },
+        { name, "textFocusedColor", fromStyle("textFocusedColor") },
+        { name, "textSelectedColor", fromStyle("textSelectedColor") },
+        { name, "topPadding", fromStyle("marginTop") },
+        { name, "bottomPadding", fromStyle("marginBottom") },
+        { name, "leftPadding", fromStyle("marginLeft") },
+        { name, "rightPadding", fromStyle("marginRight") },
+        { name, "roundingRadius", roundedBy("roundingRadius") },
+        { name, "minimumWidth", fromStyle("minSize.width") },
+        { name, "minimumHeight", fromStyle("minSize.height") },
+        { name, "font", fromStyle("font") },
+    };
+}
+
+Bindings smallOnes()
+{
+    return {
+        { "CircleProgressBar", "barWidth", literal(10) },
+        { "CircleProgressBar", "barBackgroundColor", fromDesign("colors.sochi20") },
+        { "CircleProgressBar", "barColor", fromDesign("colors.berlin") },
+        { "MainMenuEffect", "leftGradientWidth", fromDesign("mainMenu.shadowWidth") },
+        { "MainMenuEffect", "rightGradientWidth", fromDesign("mainMenu.shadowWidth") },
+        { "PrimaryButton", "style", fromDesign("primaryButtonStyle") },
+        { "StandardButton", "style", fromDesign("standardButtonStyle") },
+        { "PlayerButton", "style", fromDesign("playerButtonStyle") },
+        { "PlayerButton", "isFixedWidth", literal(false) },
+    };
+}
+
+} // namespace
+
+std::vector<Binding> allBindings()
+{
+    Bindings all;
+    for (const Bindings &some :
+         { busyIndicator(), checkBoxes(), lineEdit(), mainMenuButton(), tabButton(), smallOnes() })
+        all.insert(all.end(), some.begin(), some.end());
+    return all;
+}
+
+QByteArray styleOf(const QByteArray &component)
+{
+    static const QHash<QByteArray, QByteArray> styles {
+        { "CheckBox", "standardCheckBoxStyle" },
+        { "RadioButton", "standardCheckBoxStyle" },
+        { "Keyboard", "keyboardStyle" },
+        { "LineEdit", "lineEditStyle" },
+        { "MainMenuButton", "mainMenuButtonQmlStyle" },
+        { "TabButton", "tabButtonStyle" },
+    };
+    return styles.value(component);
+}
