@@ -6,7 +6,7 @@ import Stbui.UI.Qml.Controls.Generic
 // A check box, and with forceRounding a radio button: round, and exclusive among the buttons of its parent (or of
 // its ButtonGroup). The mark is there when the box is checked. The colours follow the state, checked before
 // focused; so that a checked box shows the focus too, its indicator then has a frame in the focused colour.
-T.CheckBox {
+T.AbstractButton { // the template's CheckBox does not know autoExclusive
     id: control
 
     property real roundingRadius: 0
@@ -21,8 +21,10 @@ T.CheckBox {
 
     implicitWidth: leftPadding + box.width + (text ? spacing + title.implicitWidth : 0) + rightPadding
     implicitHeight: topPadding + Math.max(box.height, title.implicitHeight) + bottomPadding
+    checkable: true
     autoExclusive: forceRounding
 
+    // The template of Qt 6.4 tells assistive programs of a check box, whatever stands here.
     Accessible.role: forceRounding ? Accessible.RadioButton : Accessible.CheckBox
     Accessible.name: text
 

@@ -77,6 +77,8 @@ FocusScope {
         id: placeholder
 
         anchors.fill: input
+        leftPadding: control.cursorWidth // the cursor stands beside the text, not in it
+        rightPadding: control.cursorWidth
         visible: !input.length && !input.preeditText
         text: control.placeholderText
         textFormat: Text.PlainText
@@ -105,6 +107,7 @@ FocusScope {
 
         Accessible.role: Accessible.EditableText
         Accessible.name: control.placeholderText
+        Accessible.description: control.placeholderText // Qt tells no name of a password's input
         Accessible.passwordEdit: echoMode !== TextInput.Normal
         Accessible.readOnly: readOnly
 

@@ -20,7 +20,8 @@ void strike(QQuickItem *input, Qt::Key key)
 
 void TextKeys::insert(QQuickItem *input, const QString &text) const
 {
-    if (!input || text.isEmpty())
+    // Qt asks an input method not to write where it may not, and takes what it writes all the same.
+    if (!input || text.isEmpty() || input->property("readOnly").toBool())
         return;
     QInputMethodEvent event;
     event.setCommitString(text);
