@@ -185,7 +185,7 @@ void Application::loadGuide()
 void Application::loadCatalogue()
 {
     if (m_options.catalogueFile.isEmpty()) {
-        m_shell->home()->setCatalogue(ownCatalogue(m_language));
+        m_shell->home()->setCatalogue(ownCatalogue(m_language, m_shell->clock()->now().date()));
         --m_loading;
         return;
     }

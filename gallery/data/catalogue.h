@@ -2,6 +2,7 @@
 #ifndef GALLERY_CATALOGUE_H
 #define GALLERY_CATALOGUE_H
 
+#include <QtCore/qdatetime.h>
 #include <QtCore/qlist.h>
 #include <QtCore/qmetatype.h>
 #include <QtCore/qstring.h>
@@ -43,6 +44,8 @@ struct CatalogueEntry
     /*! For episodes: from 1, 0 when not known. */
     int season = 0;
     int episode = 0;
+    /*! For episodes: the day on which it comes out; invalid when that is not told. */
+    QDate release;
     /*! For episodes: the index of their series in the catalogue; else -1. */
     int series = -1;
 

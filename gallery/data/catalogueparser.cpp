@@ -146,7 +146,7 @@ void CatalogueParser::readSeries(const Node &node, int /*series*/)
 // What an episode does not say about itself is as its series has it.
 void CatalogueParser::readEpisode(const Node &node, int series)
 {
-    static const QStringList known = keysOf({ "duration", "position", "season", "episode" });
+    static const QStringList known = keysOf({ "duration", "position", "season", "episode", "release" });
     checkKeys(node, known);
     const CatalogueEntry whole = m_entries.at(series);
     CatalogueEntry entry;
@@ -161,6 +161,7 @@ void CatalogueParser::readEpisode(const Node &node, int series)
     readWatched(node, &entry);
     entry.season = wholeNumber(node, "season", { 1, 999, "a whole number from 1 to 999" });
     entry.episode = wholeNumber(node, "episode", { 1, 9999, "a whole number from 1 to 9999" });
+    entry.release = date(node, "release");
     if (entry.subtitle.isEmpty())
         entry.subtitle = whole.title;
     if (entry.still.isEmpty())
@@ -301,6 +302,19 @@ int CatalogueParser::wholeNumber(const Node &node, const char *key, const Range 
         return whole;
     unexpected(node.pathOf(key), QLatin1String(range.what), node.value(key), ignored);
     return 0;
+}
+
+QDate CatalogueParser::date(const Node &node, const char *key)
+{
+    const QJsonValue value = node.value(key);
+    if (value.isUndefined())
+        return {};
+    // Qt takes any text for a day that begins as one.
+    const QString text = value.toString();
+    const QDate date = text.size() == 10 ? QDate::fromString(text, Qt::ISODate) : QDate();
+    if (!date.isValid())
+        unexpected(node.pathOf(key), QStringLiteral("a day such as \"2026-03-31\""), value, ignored);
+    return date;
 }
 
 bool CatalogueParser::flag(const Node &node, const char *key)

@@ -54,6 +54,7 @@ private:
     QString genre(const Node &node);
     double number(const Node &node, const char *key, const Range &range);
     int wholeNumber(const Node &node, const char *key, const Range &range);
+    QDate date(const Node &node, const char *key);
     bool flag(const Node &node, const char *key);
     QUrl address(const Node &node, const char *key);
     QUrl pathAddress(const QString &path) const;

@@ -83,9 +83,19 @@ CatalogueReport readCatalogue(const QByteArray &json, const QString &name, const
     return report;
 }
 
-Catalogue ownCatalogue(const QString &language)
+Catalogue ownCatalogue(const QString &language, QDate today)
 {
-    return readCatalogue(QStringLiteral(":/gallery/data/owncatalogue.json"), language).catalogue;
+    const Catalogue written = readCatalogue(QStringLiteral(":/gallery/data/owncatalogue.json"), language)
+                                      .catalogue;
+    const qint64 days = QDate(2026, 1, 1).daysTo(today);
+    QList<CatalogueEntry> entries;
+    for (int i = 0; i < written.count(); ++i) {
+        entries.append(written.entry(i));
+        QDate &release = entries.last().release;
+        if (release.isValid())
+            release = release.addDays(days);
+    }
+    return Catalogue(entries);
 }
 
 } // namespace gallery

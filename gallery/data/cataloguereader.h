@@ -57,8 +57,11 @@ CatalogueReport readCatalogue(const QString &fileName, const QString &language);
 /*! Reads a catalogue from the bytes \a json. \a name stands for the file in messages and addresses of pictures. */
 CatalogueReport readCatalogue(const QByteArray &json, const QString &name, const QString &language);
 
-/*! The catalogue that is shown when no file is given, in \a language ("en", "de", "ru" or "ar"), else in English. */
-Catalogue ownCatalogue(const QString &language);
+/*!
+    The catalogue that is shown when no file is given, in \a language ("en", "de", "ru" or "ar"), else in English.
+    Whatever day \a today is, the same episodes are still to come: the file's days are counted from 2026-01-01.
+*/
+Catalogue ownCatalogue(const QString &language, QDate today);
 
 } // namespace gallery
 

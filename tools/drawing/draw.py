@@ -27,6 +27,9 @@ EPISODES = {
     "valley_2": morescenes.canopy,
     "balloon_1": functools.partial(morescenes.balloon, sky=("#5a5fc4", "#c79ad6", "#ffd0b8", "#ffe0c0")),
     "balloon_2": functools.partial(morescenes.balloon, place="island"),
+    "station_4": functools.partial(morescenes.station, snow=420),
+    "windows_4": functools.partial(morescenes.windows, wall=("#4a3a2e", "#1c1410"), lit=0.3),
+    "windows_5": functools.partial(morescenes.windows, wall=("#2e4a3a", "#101c16"), lit=0.7),
 }
 CATEGORIES = {
     "news": stills.news, "weather": stills.weather, "business": stills.business, "talk": stills.talk,

@@ -25,6 +25,8 @@ private Q_SLOTS:
     void picturesStartAtTheCataloguesFolder_data();
     void picturesStartAtTheCataloguesFolder();
     void onePictureServesForTheOther();
+    void aDayThatIsNoneIsToldAndIgnored_data();
+    void aDayThatIsNoneIsToldAndIgnored();
     void aWrongValueIsToldAndIgnored_data();
     void aWrongValueIsToldAndIgnored();
     void anEntryThatCannotBeUsedIsToldAndLeftOut_data();
@@ -103,7 +105,7 @@ void TestCatalogueReader::everyValueOfAnEpisodeIsRead()
 {
     const CatalogueReport report = read(R"({"series":[{"title":"S","episodes":[{"title":"A","subtitle":"B",
         "status":"C","description":"D","rating":"7+","genre":"E","year":1993,"duration":2431,"position":19,
-        "favourite":true,"picture":"http://h/p","still":"https://h/s","logo":"qrc:/l","season":3,"episode":11}]}]})");
+        "favourite":true,"picture":"http://h/p","still":"https://h/s","logo":"qrc:/l","season":3,"episode":11,"release":"2031-12-09"}]}]})");
     QCOMPARE(messages(report), QStringList());
     QCOMPARE(report.catalogue.count(), 2);
     CatalogueEntry expected;
@@ -123,6 +125,7 @@ void TestCatalogueReader::everyValueOfAnEpisodeIsRead()
     expected.logo = QUrl(QStringLiteral("qrc:/l"));
     expected.season = 3;
     expected.episode = 11;
+    expected.release = QDate(2031, 12, 9);
     expected.series = 0;
     QVERIFY(report.catalogue.entry(1) == expected);
 }
@@ -254,6 +257,30 @@ void TestCatalogueReader::onePictureServesForTheOther()
     const CatalogueEntry withStill = firstOf(film(R"("still":"http://h/a")"));
     QCOMPARE(withPicture.still, url);
     QCOMPARE(withStill.picture, url);
+}
+
+void TestCatalogueReader::aDayThatIsNoneIsToldAndIgnored_data()
+{
+    QTest::addColumn<QString>("found");
+    QTest::newRow("\"2031-02-29\"") << "\"2031-02-29\"";
+    QTest::newRow("\"2031-12-09 or so\"") << "\"2031-12-09 or so\"";
+    QTest::newRow("\"2031-1-1\"") << "\"2031-1-1\"";
+    QTest::newRow("\"\"") << "\"\"";
+    QTest::newRow("20311209") << "20311209";
+    QTest::newRow("{}") << "an object";
+}
+
+void TestCatalogueReader::aDayThatIsNoneIsToldAndIgnored()
+{
+    QFETCH(QString, found);
+    const QByteArray value = QTest::currentDataTag();
+    const CatalogueReport report = read(R"({"series":[{"title":"S","episodes":[{"title":"A","release":)"
+                                        + value + "}]}]}");
+    QCOMPARE(messages(report),
+             QStringList(QStringLiteral("f.json: series[0].episodes[0].release: expected a day such as "
+                                        "\"2026-03-31\", found %1; it is ignored")
+                                 .arg(found)));
+    QVERIFY(!report.catalogue.entry(1).release.isValid());
 }
 
 void TestCatalogueReader::aWrongValueIsToldAndIgnored_data()

@@ -22,6 +22,8 @@ private Q_SLOTS:
     void everyTitleAndDescriptionIsTranslated();
     void someEntriesOfEachKindAreStarted();
     void everyEpisodeHasItsNumbers();
+    void oneEpisodeIsToComeWhateverDayItIs();
+    void oneSeriesHasSeveralSeasons();
     void everyPictureIsThereInItsShape();
     void everyFilmAndSeriesHasAPictureOfItsOwn();
     void everyProgrammeOfOurGuideHasAStillOfItsCategory_data();
@@ -34,9 +36,11 @@ private Q_SLOTS:
 
 namespace {
 
+const QDate today(2026, 5, 13);
+
 QList<CatalogueEntry> entriesIn(const char *language)
 {
-    const Catalogue catalogue = ownCatalogue(QLatin1String(language));
+    const Catalogue catalogue = ownCatalogue(QLatin1String(language), today);
     QList<CatalogueEntry> entries;
     for (int i = 0; i < catalogue.count(); ++i)
         entries.append(catalogue.entry(i));
@@ -74,7 +78,7 @@ void TestOwnCatalogue::itHasFilmsSeriesAndEpisodes()
 {
     QCOMPARE(countOf(CatalogueEntry::Kind::Film), 12);
     QCOMPARE(countOf(CatalogueEntry::Kind::Series), 4);
-    QCOMPARE(countOf(CatalogueEntry::Kind::Episode), 10);
+    QCOMPARE(countOf(CatalogueEntry::Kind::Episode), 13);
 }
 
 void TestOwnCatalogue::everyEntryHasItsTextsInEveryLanguage_data()
@@ -132,6 +136,31 @@ void TestOwnCatalogue::everyEpisodeHasItsNumbers()
         QCOMPARE(entry.episode > 0, isEpisode);
         QCOMPARE(entry.series >= 0, isEpisode);
     }
+}
+
+void TestOwnCatalogue::oneEpisodeIsToComeWhateverDayItIs()
+{
+    for (const QDate day : { QDate(2015, 11, 26), today, QDate(2040, 2, 29) }) {
+        const Catalogue catalogue = ownCatalogue(QStringLiteral("en"), day);
+        QList<QDate> releases;
+        for (int i = 0; i < catalogue.count(); ++i) {
+            if (catalogue.entry(i).release.isValid())
+                releases.append(catalogue.entry(i).release);
+        }
+        QCOMPARE(releases, QList { day.addDays(9) });
+    }
+}
+
+void TestOwnCatalogue::oneSeriesHasSeveralSeasons()
+{
+    QHash<int, QSet<int>> seasons;
+    const QList<CatalogueEntry> entries = entriesIn("en");
+    for (const CatalogueEntry &entry : entries)
+        seasons[entry.series].insert(entry.season);
+    seasons.remove(-1);
+    QCOMPARE(std::count_if(seasons.cbegin(), seasons.cend(),
+                           [](const QSet<int> &of) { return of.size() > 1; }),
+             1);
 }
 
 void TestOwnCatalogue::everyPictureIsThereInItsShape()
