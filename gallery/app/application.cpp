@@ -185,12 +185,12 @@ void Application::loadGuide()
 void Application::loadCatalogue()
 {
     if (m_options.catalogueFile.isEmpty()) {
-        m_shell->home()->setCatalogue(ownCatalogue(m_language, m_shell->clock()->now().date()));
+        m_shell->setCatalogue(ownCatalogue(m_language, m_shell->clock()->now().date()));
         --m_loading;
         return;
     }
     connect(m_catalogueLoader.get(), &CatalogueLoader::finished, this, [this] {
-        m_shell->home()->setCatalogue(m_catalogueLoader->catalogue());
+        m_shell->setCatalogue(m_catalogueLoader->catalogue());
         finishLoading();
     });
     m_catalogueLoader->load(m_options.catalogueFile, m_language);

@@ -20,13 +20,22 @@ struct NamedKey
 };
 
 constexpr std::array namedKeys {
-    NamedKey { "Up"_L1, Qt::Key_Up },         NamedKey { "Down"_L1, Qt::Key_Down },
-    NamedKey { "Left"_L1, Qt::Key_Left },     NamedKey { "Right"_L1, Qt::Key_Right },
-    NamedKey { "PageUp"_L1, Qt::Key_PageUp }, NamedKey { "PageDown"_L1, Qt::Key_PageDown },
-    NamedKey { "Home"_L1, Qt::Key_Home },     NamedKey { "End"_L1, Qt::Key_End },
-    NamedKey { "Return"_L1, Qt::Key_Return }, NamedKey { "Enter"_L1, Qt::Key_Enter },
-    NamedKey { "Select"_L1, Qt::Key_Select }, NamedKey { "Back"_L1, Qt::Key_Back },
-    NamedKey { "Escape"_L1, Qt::Key_Escape }, NamedKey { "Backspace"_L1, Qt::Key_Backspace },
+    NamedKey { "Up"_L1, Qt::Key_Up },
+    NamedKey { "Down"_L1, Qt::Key_Down },
+    NamedKey { "Left"_L1, Qt::Key_Left },
+    NamedKey { "Right"_L1, Qt::Key_Right },
+    NamedKey { "PageUp"_L1, Qt::Key_PageUp },
+    NamedKey { "PageDown"_L1, Qt::Key_PageDown },
+    NamedKey { "Home"_L1, Qt::Key_Home },
+    NamedKey { "End"_L1, Qt::Key_End },
+    NamedKey { "Return"_L1, Qt::Key_Return },
+    NamedKey { "Enter"_L1, Qt::Key_Enter },
+    NamedKey { "Select"_L1, Qt::Key_Select },
+    NamedKey { "Back"_L1, Qt::Key_Back },
+    NamedKey { "Escape"_L1, Qt::Key_Escape },
+    NamedKey { "Backspace"_L1, Qt::Key_Backspace },
+    NamedKey { "ChannelUp"_L1, Qt::Key_ChannelUp },
+    NamedKey { "ChannelDown"_L1, Qt::Key_ChannelDown },
 };
 
 } // namespace

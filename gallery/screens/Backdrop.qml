@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
 import QtQuick
-import Stbui.UI.Qml.Controls.Basic
-import Stbui.UI.Qml.Design
 import Gallery
 
 // A wide picture in the upper corner where reading ends, which fades away towards the text. Without a picture, or
@@ -14,21 +12,10 @@ Item {
 
     visible: String(source).length > 0
 
-    Component.onCompleted: picture.style = measures
-
-    // A tile takes its size from the style that it is given, as it is at that moment.
-    TileQmlStyle {
-        id: measures
-
-        // qmllint disable type
-        style.tileRect: Qt.rect(0, 0, backdrop.width, backdrop.height)
-        // qmllint enable type
-    }
-    ExpandableTile {
-        id: picture
-
-        itemBackgroundColor: Look.backdrop
-        imageSource: Pictures.filling(backdrop.source, backdrop.width, backdrop.height)
+    SizedPicture {
+        pictureWidth: backdrop.width
+        pictureHeight: backdrop.height
+        source: backdrop.source
     }
     Rectangle {
         anchors.fill: parent

@@ -105,7 +105,7 @@ FocusScope {
         }
         PlayerButton {
             objectName: "button"
-            visible: !screen.detail.programme
+            visible: !screen.detail.programme && !screen.detail.ofSeries
             titleText: qsTr("Trailer")
             focused: screen.detail.button === DetailController.TrailerButton
             throbberVisible: screen.detail.opening === DetailController.TrailerButton
@@ -117,6 +117,12 @@ FocusScope {
             focused: screen.detail.button === DetailController.GuideButton
         }
         PlayerButton {
+            objectName: "button"
+            visible: screen.detail.ofSeries
+            titleText: qsTr("Episodes")
+            focused: screen.detail.button === DetailController.EpisodesButton
+        }
+        CheckableButton {
             objectName: "button"
             titleText: qsTr("Like")
             focused: screen.detail.button === DetailController.RateButton

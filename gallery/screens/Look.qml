@@ -44,6 +44,7 @@ QtObject {
     // Over a picture that texts may touch, and under a text on a picture.
     readonly property color veil: Qt.rgba(backdrop.r, backdrop.g, backdrop.b, 0.25)
     readonly property color badge: Qt.rgba(backdrop.r, backdrop.g, backdrop.b, 0.75)
+    readonly property color clear: Qt.rgba(backdrop.r, backdrop.g, backdrop.b, 0)
     readonly property color surface: QmlDesignSystem.colors.bamako
     readonly property color raised: QmlDesignSystem.colors.bogota
     readonly property color text: QmlDesignSystem.colors.sochi

@@ -37,6 +37,20 @@ FocusScope {
     }
     ScreenLoader {
         controller: shell.controller
+        name: "series"
+        sourceComponent: SeriesScreen {
+            series: shell.controller.series
+        }
+    }
+    ScreenLoader {
+        controller: shell.controller
+        name: "player"
+        sourceComponent: PlayerScreen {
+            player: shell.controller.player
+        }
+    }
+    ScreenLoader {
+        controller: shell.controller
         name: "guide"
         sourceComponent: GuideScreen {
             guide: shell.controller.guide

@@ -4,8 +4,6 @@
 #include "screens/marks.h"
 #include "screens/remotekey.h"
 
-#include <QtCore/qcoreapplication.h>
-
 #include <algorithm>
 
 namespace gallery {
@@ -52,9 +50,7 @@ bool DetailController::isLiked() const
 
 QString DetailController::message() const
 {
-    if (!m_opened)
-        return {};
-    return QCoreApplication::translate("DetailScreen", "There is no player in this gallery.");
+    return m_opened ? noPlayerText() : QString();
 }
 
 void DetailController::setMirrored(bool mirrored)
@@ -67,7 +63,8 @@ void DetailController::setMirrored(bool mirrored)
 
 QList<DetailController::Button> DetailController::buttons() const
 {
-    return { PlayButton, FavouriteButton, m_item.isProgramme() ? GuideButton : TrailerButton, RateButton };
+    const Button further = m_item.isProgramme() ? GuideButton : isOfSeries() ? EpisodesButton : TrailerButton;
+    return { PlayButton, FavouriteButton, further, RateButton };
 }
 
 bool DetailController::press(int key)
@@ -111,8 +108,7 @@ void DetailController::activate()
         return;
     case PlayButton:
     case TrailerButton:
-        if (m_opening == NoButton)
-            setOpening(m_button, false);
+        play();
         return;
     case FavouriteButton:
         m_favourites->toggle(m_item.id);
@@ -123,7 +119,18 @@ void DetailController::activate()
     case GuideButton:
         Q_EMIT guideRequested();
         return;
+    case EpisodesButton:
+        Q_EMIT episodesRequested();
+        return;
     }
+}
+
+void DetailController::play()
+{
+    if (m_item.isProgramme())
+        Q_EMIT watchRequested();
+    else if (m_opening == NoButton)
+        setOpening(m_button, false);
 }
 
 void DetailController::finishOpening()

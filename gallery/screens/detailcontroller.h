@@ -29,6 +29,8 @@ class DetailController : public QObject
     Q_PROPERTY(QUrl still READ still NOTIFY itemChanged)
     Q_PROPERTY(double progress READ progress NOTIFY itemChanged)
     Q_PROPERTY(bool programme READ isProgramme NOTIFY itemChanged)
+    /*! A series, or an episode of one. */
+    Q_PROPERTY(bool ofSeries READ isOfSeries NOTIFY itemChanged)
     /*! Begun and not over: it is continued, not played from its start. */
     Q_PROPERTY(bool started READ isStarted NOTIFY itemChanged)
 
@@ -45,8 +47,19 @@ class DetailController : public QObject
     QML_ELEMENT
     QML_UNCREATABLE("The shell has it.")
 public:
-    /*! In reading order. A programme has GuideButton in the place of TrailerButton. */
-    enum Button { NoButton, PlayButton, FavouriteButton, TrailerButton, GuideButton, RateButton };
+    /*!
+        In reading order. In the place of TrailerButton a programme has GuideButton, a series and its episodes have
+        EpisodesButton.
+    */
+    enum Button {
+        NoButton,
+        PlayButton,
+        FavouriteButton,
+        TrailerButton,
+        GuideButton,
+        EpisodesButton,
+        RateButton
+    };
     Q_ENUM(Button)
 
     /*! How long an opening takes, in milliseconds. */
@@ -70,6 +83,7 @@ public:
     QUrl still() const { return m_item.still; }
     double progress() const { return m_item.progress(); }
     bool isProgramme() const { return m_item.isProgramme(); }
+    bool isOfSeries() const { return m_item.series >= 0; }
     bool isStarted() const { return progress() > 0 && progress() < 1; }
 
     bool isFavourite() const;
@@ -85,7 +99,8 @@ public:
 
     /*!
         Handles a remote key; false when it means nothing here. Left, Right, Home and End choose a button, Return
-        presses it. Back stops what is being opened, else asks to go back.
+        presses it: a programme is watched at once, anything else takes a while to open. Back stops what is being
+        opened, else asks to go back.
     */
     Q_INVOKABLE bool press(int key);
 
@@ -100,10 +115,14 @@ Q_SIGNALS:
     void openingChanged();
     void mirroredChanged();
     void guideRequested();
+    void episodesRequested();
+    /*! The channel of the programme is to be watched. */
+    void watchRequested();
     void backRequested();
 
 private:
     void activate();
+    void play();
     void choose(int index);
     void setOpening(Button button, bool opened);
 

@@ -21,17 +21,6 @@ int minutes(double seconds)
     return int(std::clamp(std::ceil(seconds / 60), 0.0, 1e6));
 }
 
-QString lengthText(double seconds)
-{
-    const int all = minutes(seconds);
-    if (all < 60) {
-        //: Length of a film: minutes
-        return QCoreApplication::translate("MediaItem", "%1 min").arg(all);
-    }
-    //: Length of a film: hours and minutes
-    return QCoreApplication::translate("MediaItem", "%1 h %2 min").arg(all / 60).arg(all % 60);
-}
-
 QString episodeText(const MediaItem &item)
 {
     if (item.season <= 0 || item.episode <= 0)
@@ -60,12 +49,13 @@ MediaItem programmeItem(const Guide &guide, int channel, int index, const QDateT
     const Programme programme = guide.programme(channel, index);
     MediaItem item;
     item.kind = MediaItem::Kind::Programme;
-    item.id = u"tv:"_s + guide.channel(channel).id;
+    item.id = channelItemId(guide.channel(channel).id);
     item.title = programme.title;
     item.subtitle = programme.subTitle;
     item.description = programme.description;
     item.genre = programme.category;
     item.channel = guide.channel(channel).name;
+    item.channelId = guide.channel(channel).id;
     item.logo = guide.channel(channel).icon;
     item.still = programmeStill(programme.category, programme.title);
     item.start = QDateTime::fromSecsSinceEpoch(programme.time.start);
@@ -105,12 +95,31 @@ MediaItem catalogueItem(const Catalogue &catalogue, int index)
     item.year = entry.year;
     item.season = entry.season;
     item.episode = entry.episode;
+    item.release = entry.release;
+    item.entry = index;
+    item.series = item.kind == MediaItem::Kind::Series ? index : entry.series;
     item.position = entry.position;
     item.duration = entry.duration;
     item.picture = entry.picture;
     item.still = entry.still;
     item.logo = entry.logo;
     return item;
+}
+
+QString channelItemId(const QString &channelId)
+{
+    return u"tv:"_s + channelId;
+}
+
+QString lengthText(double seconds)
+{
+    const int all = minutes(seconds);
+    if (all < 60) {
+        //: Length of a film: minutes
+        return QCoreApplication::translate("MediaItem", "%1 min").arg(all);
+    }
+    //: Length of a film: hours and minutes
+    return QCoreApplication::translate("MediaItem", "%1 h %2 min").arg(all / 60).arg(all % 60);
 }
 
 QString secondLine(const MediaItem &item)
@@ -141,6 +150,21 @@ QString facts(const MediaItem &item)
     parts.append(item.rating);
     parts.removeAll(QString());
     return parts.join(u" · "_s);
+}
+
+bool isViewed(const MediaItem &item)
+{
+    return item.duration > 0 && item.position >= item.duration;
+}
+
+bool isToCome(const MediaItem &item, QDate today)
+{
+    return item.release.isValid() && item.release > today;
+}
+
+QString noPlayerText()
+{
+    return QCoreApplication::translate("MediaItem", "There is no film to play in this gallery.");
 }
 
 QString timeLeft(const MediaItem &item)

@@ -25,13 +25,19 @@ struct MediaItem
     QString genre;
     /*! Age rating such as "12+". */
     QString rating;
-    /*! Only of a programme. */
+    /*! Only of a programme: the channel's name and its id in the guide. */
     QString channel;
+    QString channelId;
     /*! When a programme began, in local time. */
     QDateTime start;
     int year = 0;
     int season = 0;
     int episode = 0;
+    /*! The day on which an episode comes out; invalid when that is not told. */
+    QDate release;
+    /*! In the catalogue: the index of this entry, and that of its series, which a series has too; else -1. */
+    int entry = -1;
+    int series = -1;
     /*! How much of it is over or watched, and how long it is, in seconds; 0 when not known. */
     double position = 0;
     double duration = 0;
@@ -54,12 +60,23 @@ QList<MediaItem> programmesAt(const Guide &guide, const QDateTime &now);
 /*! The entry \a index of \a catalogue. */
 MediaItem catalogueItem(const Catalogue &catalogue, int index);
 
+/*! The id of the items that stand for what is on the channel \a channelId. */
+QString channelItemId(const QString &channelId);
+/*! "1 h 42 min", "12 min". */
+QString lengthText(double seconds);
+
 /*! "20:15 – 21:30" of a programme, else the subtitle: the second line of a tile. */
 QString secondLine(const MediaItem &item);
 /*! What is left of something that was begun, else the note: the third line of a tile. */
 QString thirdLine(const MediaItem &item);
 /*! What is known besides the texts, for one line: "2021 · Drama · 1 h 42 min". */
 QString facts(const MediaItem &item);
+/*! Whether \a item was watched to its end. */
+bool isViewed(const MediaItem &item);
+/*! Whether \a item comes out only after the day \a today. */
+bool isToCome(const MediaItem &item, QDate today);
+/*! What is told where something would be played. */
+QString noPlayerText();
 /*! "12 min left", or nothing when \a item is not begun or its length is not known. */
 QString timeLeft(const MediaItem &item);
 

@@ -9,8 +9,10 @@ namespace {
 
 constexpr QLatin1StringView homeScreen = "home"_L1;
 constexpr QLatin1StringView detailScreen = "detail"_L1;
+constexpr QLatin1StringView seriesScreen = "series"_L1;
 constexpr QLatin1StringView guideScreen = "guide"_L1;
 constexpr QLatin1StringView channelsScreen = "channels"_L1;
+constexpr QLatin1StringView playerScreen = "player"_L1;
 
 } // namespace
 
@@ -20,7 +22,14 @@ ShellController::ShellController(QObject *parent)
     , m_detail(&m_favourites, &m_likes)
     , m_guide(&m_clock)
     , m_channels(&m_clock)
+    , m_player(&m_clock, &m_favourites)
+    , m_series(&m_clock)
     , m_open({ homeScreen })
+{
+    connectScreens();
+}
+
+void ShellController::connectScreens()
 {
     const auto openGuide = [this] { open(guideScreen); };
     connect(&m_home, &HomeController::itemOpened, this, &ShellController::openItem);
@@ -32,19 +41,25 @@ ShellController::ShellController(QObject *parent)
             m_detail.update(*item);
     });
     connect(&m_detail, &DetailController::guideRequested, this, openGuide);
+    connect(&m_detail, &DetailController::episodesRequested, this, &ShellController::openEpisodes);
+    connect(&m_detail, &DetailController::watchRequested, this, &ShellController::watchItem);
     connect(&m_detail, &DetailController::backRequested, this, &ShellController::goBack);
     connect(&m_guide, &GuideController::guideShown, this, [this] {
         m_home.setGuide(m_guide.shownGuide());
         m_channels.setGuide(m_guide.shownGuide());
+        m_player.setGuide(m_guide.shownGuide());
     });
     connect(&m_guide, &GuideController::leaveRequested, this, &ShellController::goBack);
     connect(&m_channels, &ChannelsController::playRequested, this, &ShellController::openPlayer);
     connect(&m_channels, &ChannelsController::leaveRequested, this, &ShellController::goBack);
+    connect(&m_player, &PlayerController::guideRequested, this, openGuide);
+    connect(&m_player, &PlayerController::leaveRequested, this, &ShellController::goBack);
+    connect(&m_series, &SeriesController::backRequested, this, &ShellController::goBack);
 }
 
 QStringList ShellController::screenNames()
 {
-    return { homeScreen, detailScreen, guideScreen, channelsScreen };
+    return { homeScreen, detailScreen, seriesScreen, guideScreen, channelsScreen, playerScreen };
 }
 
 void ShellController::setMirrored(bool mirrored)
@@ -56,6 +71,8 @@ void ShellController::setMirrored(bool mirrored)
     m_detail.setMirrored(mirrored);
     m_guide.setMirrored(mirrored);
     m_channels.setMirrored(mirrored);
+    m_player.setMirrored(mirrored);
+    m_series.setMirrored(mirrored);
     Q_EMIT mirroredChanged();
 }
 
@@ -69,9 +86,20 @@ void ShellController::start(const QString &screen)
     if (screen == detailScreen) {
         m_home.chooseFirstVideo();
         openItem();
+    } else if (screen == seriesScreen) {
+        if (m_series.showFirst())
+            open(seriesScreen);
+    } else if (screen == playerScreen) {
+        openPlayer(m_guide.channelRow());
     } else if (screen != homeScreen && screenNames().contains(screen)) {
         open(screen);
     }
+}
+
+void ShellController::setCatalogue(const Catalogue &catalogue)
+{
+    m_home.setCatalogue(catalogue);
+    m_series.setCatalogue(catalogue);
 }
 
 void ShellController::openItem()
@@ -98,7 +126,21 @@ void ShellController::goBack()
     Q_EMIT screenChanged();
 }
 
-// There is no player yet to open.
-void ShellController::openPlayer(int /*channelRow*/) {}
+void ShellController::openPlayer(int channelRow)
+{
+    if (m_player.play(channelRow))
+        open(playerScreen);
+}
+
+void ShellController::openEpisodes()
+{
+    if (m_series.show(m_detail.item().series, m_detail.item().entry))
+        open(seriesScreen);
+}
+
+void ShellController::watchItem()
+{
+    openPlayer(m_guide.shownGuide().channelIndex(m_detail.item().channelId));
+}
 
 } // namespace gallery

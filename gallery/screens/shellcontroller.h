@@ -8,6 +8,8 @@
 #include "screens/guidecontroller.h"
 #include "screens/homecontroller.h"
 #include "screens/marks.h"
+#include "screens/playercontroller.h"
+#include "screens/seriescontroller.h"
 
 #include <QtCore/qstringlist.h>
 
@@ -24,6 +26,8 @@ class ShellController : public QObject
     Q_PROPERTY(gallery::DetailController *detail READ detail CONSTANT)
     Q_PROPERTY(gallery::GuideController *guide READ guide CONSTANT)
     Q_PROPERTY(gallery::ChannelsController *channels READ channels CONSTANT)
+    Q_PROPERTY(gallery::PlayerController *player READ player CONSTANT)
+    Q_PROPERTY(gallery::SeriesController *series READ series CONSTANT)
     /*! The name of the screen that is shown. */
     Q_PROPERTY(QString screen READ screen NOTIFY screenChanged)
     /*! The names of the screens that are open, the one that is shown last. */
@@ -35,7 +39,7 @@ class ShellController : public QObject
 public:
     explicit ShellController(QObject *parent = nullptr);
 
-    /*! The names of the screens: "home", "detail", "guide", "channels". */
+    /*! The names of the screens: "home", "detail", "series", "guide", "channels", "player". */
     static QStringList screenNames();
 
     Clock *clock() { return &m_clock; }
@@ -43,6 +47,8 @@ public:
     DetailController *detail() { return &m_detail; }
     GuideController *guide() { return &m_guide; }
     ChannelsController *channels() { return &m_channels; }
+    PlayerController *player() { return &m_player; }
+    SeriesController *series() { return &m_series; }
 
     QString screen() const { return m_open.constLast(); }
     QStringList openScreens() const { return m_open; }
@@ -51,9 +57,12 @@ public:
 
     /*!
         Starts anew on \a screen, as if no key had been pressed. The detail page shows the first item of the
-        catalogue, or of what is on TV; without either the home screen is shown in its place.
+        catalogue, or of what is on TV, the episodes are those of the first series, and the player plays the channel
+        that the guide starts with; without any of them the home screen is shown in its place.
     */
     void start(const QString &screen);
+    /*! Shows the films and series of \a catalogue. */
+    void setCatalogue(const Catalogue &catalogue);
     /*! Leaves the screen for the one below it; on the lowest one nothing happens. */
     void goBack();
 
@@ -68,8 +77,11 @@ Q_SIGNALS:
     void leaveRequested();
 
 private:
+    void connectScreens();
     void open(const QString &screen);
     void openItem();
+    void openEpisodes();
+    void watchItem();
 
     Clock m_clock;
     Marks m_favourites;
@@ -78,6 +90,8 @@ private:
     DetailController m_detail;
     GuideController m_guide;
     ChannelsController m_channels;
+    PlayerController m_player;
+    SeriesController m_series;
     QStringList m_open;
     bool m_mirrored = false;
 };

@@ -79,8 +79,8 @@
         <translation>Нравится</translation>
     </message>
     <message>
-        <source>There is no player in this gallery.</source>
-        <translation>В этой галерее нет плеера.</translation>
+        <source>Episodes</source>
+        <translation>Серии</translation>
     </message>
 </context>
 <context>
@@ -217,6 +217,81 @@
         <extracomment>%1 is how much is left of a film that was begun: &quot;12 min&quot;</extracomment>
         <translation>Осталось %1</translation>
     </message>
+    <message>
+        <source>There is no film to play in this gallery.</source>
+        <translation>В этой галерее нет фильма, который можно показать.</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerButtons</name>
+    <message>
+        <source>Pause</source>
+        <translation>Пауза</translation>
+    </message>
+    <message>
+        <source>From the start</source>
+        <translation>С начала</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>Эфир</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>В избранное</translation>
+    </message>
+    <message>
+        <source>TV guide</source>
+        <translation>Программа</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerScreen</name>
+    <message>
+        <source>There is nothing on now</source>
+        <translation>Сейчас в эфире ничего нет</translation>
+    </message>
+    <message>
+        <source>There are no channels to watch</source>
+        <translation>Нет каналов для просмотра</translation>
+    </message>
+    <message>
+        <source>Yesterday</source>
+        <translation>Вчера</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Сегодня</translation>
+    </message>
+    <message>
+        <source>Tomorrow</source>
+        <translation>Завтра</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Сейчас</translation>
+    </message>
+    <message>
+        <source>%1, %2 – %3</source>
+        <extracomment>%1 is a day (&quot;Today&quot;), %2 and %3 are the times of start and stop: &quot;Today, 20:00 – 20:30&quot;</extracomment>
+        <translation>%1, %2 – %3</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Пауза</translation>
+    </message>
+    <message>
+        <source>%1 behind live</source>
+        <extracomment>%1 is how long ago it was sent what is watched: &quot;12 min&quot;</extracomment>
+        <translation>Отставание от эфира: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PlayingProgrammes</name>
+    <message>
+        <source>This channel has no programme guide</source>
+        <translation>Для этого канала нет программы</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -256,6 +331,50 @@
     <message>
         <source>TV guide</source>
         <translation>Телепрограмма</translation>
+    </message>
+</context>
+<context>
+    <name>SeriesScreen</name>
+    <message>
+        <source>There are no episodes yet</source>
+        <translation>Серий пока нет</translation>
+    </message>
+    <message>
+        <source>d</source>
+        <extracomment>Day of the month, alone in a line above the month, in the form that QLocale::toString() takes</extracomment>
+        <translation>d</translation>
+    </message>
+    <message>
+        <source>MMMM</source>
+        <extracomment>The month below the day, in the form that QLocale::toString() takes</extracomment>
+        <translation>MMMM</translation>
+    </message>
+    <message>
+        <source>Viewed</source>
+        <translation>Просмотрено</translation>
+    </message>
+    <message>
+        <source>Season %1</source>
+        <translation>Сезон %1</translation>
+    </message>
+    <message>
+        <source>Specials</source>
+        <translation>Спецвыпуски</translation>
+    </message>
+    <message>
+        <source>Opening “%1”…</source>
+        <extracomment>%1 is an episode&apos;s title</extracomment>
+        <translation>Открывается «%1»…</translation>
+    </message>
+    <message>
+        <source>d MMMM yyyy</source>
+        <extracomment>Day, month and year, in the form that QLocale::toString() takes</extracomment>
+        <translation>d MMMM yyyy &apos;г.&apos;</translation>
+    </message>
+    <message>
+        <source>This episode comes out on %1</source>
+        <extracomment>%1 is a date</extracomment>
+        <translation>Эта серия выйдет %1</translation>
     </message>
 </context>
 <context>

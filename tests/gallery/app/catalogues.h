@@ -51,6 +51,41 @@ inline gallery::Catalogue small()
     return gallery::Catalogue(entries);
 }
 
+/*! An episode of the series with the index \a series; of 50 minutes, of which \a position seconds are watched. */
+inline gallery::CatalogueEntry episode(int series, int season, int number, double position = 0)
+{
+    gallery::CatalogueEntry entry = film(QStringLiteral("S%1E%2").arg(season).arg(number), position);
+    entry.kind = gallery::CatalogueEntry::Kind::Episode;
+    entry.duration = 3000;
+    entry.series = series;
+    entry.season = season;
+    entry.episode = number;
+    return entry;
+}
+
+/*!
+    A film, then the series "Many" with three seasons: one of two viewed episodes, one with a viewed, a begun, a new
+    and a coming episode (on 2026-03-12) and three more, one with a single episode. Then the series "Few" with two
+    new episodes of one season, and "None" without any.
+*/
+inline gallery::Catalogue seasons()
+{
+    const auto series = [](const QString &title) {
+        gallery::CatalogueEntry entry = film(title);
+        entry.kind = gallery::CatalogueEntry::Kind::Series;
+        return entry;
+    };
+    QList<gallery::CatalogueEntry> entries { film("F"), series("Many") };
+    entries << episode(1, 1, 1, 3000) << episode(1, 1, 2, 3000);
+    entries << episode(1, 2, 1, 3000) << episode(1, 2, 2, 600) << episode(1, 2, 3);
+    entries << episode(1, 2, 4);
+    entries.last().release = QDate(2026, 3, 12);
+    entries << episode(1, 2, 5) << episode(1, 2, 6) << episode(1, 2, 7) << episode(1, 3, 1);
+    const int few = int(entries.size());
+    entries << series("Few") << episode(few, 1, 1) << episode(few, 1, 2) << series("None");
+    return gallery::Catalogue(entries);
+}
+
 } // namespace catalogues
 
 #endif // STBUI_TEST_CATALOGUES_H

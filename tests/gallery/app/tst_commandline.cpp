@@ -232,7 +232,8 @@ private Q_SLOTS:
 
     void everyScreenCanBeNamed()
     {
-        QCOMPARE(gallery::screenNames(), (QStringList { "home", "detail", "guide", "channels" }));
+        QCOMPARE(gallery::screenNames(),
+                 (QStringList { "home", "detail", "series", "guide", "channels", "player" }));
         for (const QString &name : gallery::screenNames())
             QCOMPARE(parse({ "--screen", name }).options.screen, name);
     }

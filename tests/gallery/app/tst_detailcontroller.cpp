@@ -106,6 +106,32 @@ private Q_SLOTS:
         QVERIFY(!m->detail.buttons().contains(DetailController::GuideButton));
     }
 
+    void aSeriesAndItsEpisodesHaveTheEpisodesInPlaceOfATrailer()
+    {
+        for (const int index : { 9, 10 }) {
+            m->showFilm(index);
+            QVERIFY(m->detail.isOfSeries());
+            QVERIFY(!m->detail.buttons().contains(DetailController::TrailerButton));
+            QSignalSpy requests(&m->detail, &DetailController::episodesRequested);
+            m->press({ Qt::Key_Right, Qt::Key_Right, Qt::Key_Return });
+            QCOMPARE(m->detail.button(), DetailController::EpisodesButton);
+            QCOMPARE(requests.count(), 1);
+        }
+        m->showFilm(0);
+        QVERIFY(!m->detail.isOfSeries());
+        QVERIFY(!m->detail.buttons().contains(DetailController::EpisodesButton));
+    }
+
+    void aProgrammeIsWatchedAtOnce()
+    {
+        m->showProgramme();
+        QSignalSpy requests(&m->detail, &DetailController::watchRequested);
+        m->press({ Qt::Key_Return });
+        QCOMPARE(requests.count(), 1);
+        QCOMPARE(m->detail.opening(), DetailController::NoButton);
+        QCOMPARE(m->detail.item().channelId, "a");
+    }
+
     void returnTogglesTheFavouriteOfThisItem()
     {
         m->showFilm(0);
@@ -138,7 +164,7 @@ private Q_SLOTS:
         QCOMPARE(changes.count(), 1);
         m->detail.finishOpening();
         QCOMPARE(m->detail.opening(), DetailController::NoButton);
-        QCOMPARE(m->detail.message(), "There is no player in this gallery.");
+        QCOMPARE(m->detail.message(), "There is no film to play in this gallery.");
         m->press({ Qt::Key_Return });
         QCOMPARE(m->detail.message(), QString());
     }
@@ -175,10 +201,12 @@ private Q_SLOTS:
 
     void anUpdateLeavesButtonAndOpening()
     {
-        m->showProgramme();
+        m->showFilm(1);
         m->press({ Qt::Key_Return, Qt::Key_Right });
         QSignalSpy changes(&m->detail, &DetailController::itemChanged);
-        m->detail.update(gallery::programmesAt(guides::five(), guides::at(20, 15)).at(0));
+        gallery::MediaItem later = m->detail.item();
+        later.position = 3240;
+        m->detail.update(later);
         QCOMPARE(changes.count(), 1);
         QCOMPARE(m->detail.progress(), 0.5);
         QCOMPARE(m->detail.button(), DetailController::FavouriteButton);

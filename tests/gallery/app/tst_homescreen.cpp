@@ -28,10 +28,13 @@ class tst_HomeScreen : public ScreenTest
     /*! Why the focus cannot be seen, or nothing when it can. */
     QString focusProblem() const
     {
-        if (shell()->screen() != "detail")
-            return plateProblem(sceneRect(view()->rootObject()));
         if (view()->activeFocusItem() == nullptr)
             return "nothing has the focus";
+        // These have tests of their own.
+        if (shell()->screen() == "player" || shell()->screen() == "series")
+            return {};
+        if (shell()->screen() != "detail")
+            return plateProblem(sceneRect(view()->rootObject()));
         int focused = 0;
         const QList<QQuickItem *> buttons = items("button");
         for (const QQuickItem *button : buttons) {
@@ -286,7 +289,7 @@ private Q_SLOTS:
         QCOMPARE(busy(), 1);
         detail()->finishOpening();
         QCOMPARE(busy(), 0);
-        QVERIFY(texts().contains("There is no player in this gallery."));
+        QVERIFY(texts().contains("There is no film to play in this gallery."));
     }
 };
 

@@ -17,7 +17,7 @@ class tst_ShellController : public stbtest::TestCase
     void fill()
     {
         m->clock()->setFixed(guides::at(20, 5));
-        m->home()->setCatalogue(catalogues::small());
+        m->setCatalogue(catalogues::small());
         m->guide()->setGuide(guides::five());
     }
 
@@ -46,6 +46,12 @@ private Q_SLOTS:
         QCOMPARE(m->openScreens(), (QStringList { "home", "detail" }));
         m->start("channels");
         QCOMPARE(m->openScreens(), (QStringList { "home", "channels" }));
+        m->start("series");
+        QCOMPARE(m->openScreens(), (QStringList { "home", "series" }));
+        QCOMPARE(m->series()->title(), "S0");
+        m->start("player");
+        QCOMPARE(m->openScreens(), (QStringList { "home", "player" }));
+        QCOMPARE(m->player()->title(), "A40");
         m->start("home");
         QCOMPARE(m->openScreens(), QStringList { "home" });
     }
@@ -61,7 +67,7 @@ private Q_SLOTS:
     void withoutACatalogueItStartsWithWhatIsOn()
     {
         fill();
-        m->home()->setCatalogue({});
+        m->setCatalogue({});
         m->start("detail");
         QCOMPARE(m->detail()->title(), "A40");
     }
@@ -70,6 +76,85 @@ private Q_SLOTS:
     {
         m->start("detail");
         QCOMPARE(m->screen(), "home");
+    }
+
+    void withoutASeriesOrAChannelTheHomeScreenStandsInForThem()
+    {
+        m->start("series");
+        QCOMPARE(m->screen(), "home");
+        m->start("player");
+        QCOMPARE(m->screen(), "home");
+    }
+
+    void aChannelIsPlayedAndBackLeadsToWhereItWasChosen()
+    {
+        fill();
+        m->start("guide");
+        m->openPlayer(1);
+        QCOMPARE(m->openScreens(), (QStringList { "home", "guide", "player" }));
+        QCOMPARE(m->player()->channelName(), "Channel b");
+        m->player()->press(Qt::Key_Back);
+        m->player()->press(Qt::Key_Back);
+        QCOMPARE(m->screen(), "guide");
+    }
+
+    void aChannelThatThereIsNotOpensNothing()
+    {
+        fill();
+        m->openPlayer(-1);
+        m->openPlayer(5);
+        QCOMPARE(m->screen(), "home");
+    }
+
+    void thePlayersGuideLeadsBackToIt()
+    {
+        fill();
+        m->openPlayer(0);
+        for (const Qt::Key key : { Qt::Key_Return, Qt::Key_End, Qt::Key_Return })
+            m->player()->press(key);
+        QCOMPARE(m->openScreens(), (QStringList { "home", "player", "guide" }));
+        m->guide()->press(Qt::Key_Back);
+        QCOMPARE(m->screen(), "player");
+    }
+
+    void whatIsOnTvIsWatchedFromItsPage()
+    {
+        fill();
+        m->home()->press(Qt::Key_Right);
+        m->home()->press(Qt::Key_Return);
+        m->detail()->press(Qt::Key_Return);
+        QCOMPARE(m->openScreens(), (QStringList { "home", "detail", "player" }));
+        QCOMPARE(m->player()->title(), "B25");
+    }
+
+    void aFavouriteChannelIsOneOnEveryScreen()
+    {
+        fill();
+        m->openPlayer(0);
+        for (const Qt::Key key : { Qt::Key_Return, Qt::Key_End, Qt::Key_Left, Qt::Key_Return })
+            m->player()->press(key);
+        QVERIFY(m->player()->isFavourite());
+        QAbstractItemModel *programmes = m->home()->rows()->ofKind(gallery::HomeRow::NowOnTv)->tiles();
+        QVERIFY(programmes->index(0, 0).data(gallery::TileModel::FavouriteRole).toBool());
+        QVERIFY(!programmes->index(1, 0).data(gallery::TileModel::FavouriteRole).toBool());
+    }
+
+    void anEpisodesPageLeadsToItAmongTheOthersAndBack()
+    {
+        fill();
+        m->home()->press(Qt::Key_Down);
+        m->home()->press(Qt::Key_Down);
+        m->home()->press(Qt::Key_Down);
+        m->home()->press(Qt::Key_End);
+        QCOMPARE(m->home()->title(), "E1");
+        m->home()->press(Qt::Key_Return);
+        for (const Qt::Key key : { Qt::Key_Right, Qt::Key_Right, Qt::Key_Return })
+            m->detail()->press(key);
+        QCOMPARE(m->openScreens(), (QStringList { "home", "detail", "series" }));
+        QCOMPARE(m->series()->title(), "S1");
+        QCOMPARE(m->series()->episode()->title, "E1");
+        m->series()->press(Qt::Key_Back);
+        QCOMPARE(m->screen(), "detail");
     }
 
     void anItemOpensItsPageAndBackLeadsToItsTile()
@@ -159,6 +244,7 @@ private Q_SLOTS:
         QCOMPARE(changes.count(), 1);
         QVERIFY(m->home()->isMirrored() && m->detail()->isMirrored() && m->guide()->isMirrored());
         QVERIFY(m->channels()->isMirrored());
+        QVERIFY(m->player()->isMirrored() && m->series()->isMirrored());
     }
 
     void aStartBringsTheGuideBackToWhatIsOn()
