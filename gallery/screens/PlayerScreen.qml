@@ -8,6 +8,7 @@ FocusScope {
 
     required property PlayerController player
     readonly property bool overlaid: player.area !== PlayerController.Picture
+    readonly property bool onButtons: player.area === PlayerController.Buttons
 
     focus: true
     Keys.onPressed: event => event.accepted = player.press(event.key)
@@ -25,9 +26,10 @@ FocusScope {
     Label {
         anchors.centerIn: parent
         width: parent.width - 2 * Look.safeX
-        visible: screen.player.title.length === 0
-        text: screen.player.channelName.length > 0 ? qsTr("There is nothing on now")
-                                                   : qsTr("There are no channels to watch")
+        visible: screen.player.locked || screen.player.title.length === 0
+        text: screen.player.locked ? qsTr("This channel is locked")
+                                   : screen.player.channelName.length > 0 ? qsTr("There is nothing on now")
+                                                                          : qsTr("There are no channels to watch")
         font: Look.heading
         color: Look.quietText
         horizontalAlignment: Text.AlignHCenter
@@ -91,12 +93,30 @@ FocusScope {
             }
         }
         Label {
+            id: clock
+
             anchors.top: parent.top
             anchors.topMargin: Look.safeY
             anchors.right: parent.right
             anchors.rightMargin: Look.safeX
             text: screen.player.clockText
             font: Look.headline
+        }
+        Row {
+            anchors.top: clock.bottom
+            anchors.topMargin: Look.small
+            anchors.right: clock.right
+            spacing: Look.large
+
+            KeyHint {
+                key: screen.onButtons ? "▲" : "▲ ▼"
+                text: screen.onButtons ? qsTr("Programmes") : qsTr("Channel")
+            }
+            KeyHint {
+                visible: !screen.onButtons
+                key: qsTr("OK", "a key of the remote control")
+                text: qsTr("Actions")
+            }
         }
         PlayerStatus {
             id: status

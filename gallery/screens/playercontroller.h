@@ -29,11 +29,13 @@ class PlayerController : public QObject
     /*! Empty without a channel. */
     Q_PROPERTY(QString channelName READ channelName NOTIFY channelChanged)
     Q_PROPERTY(QString channelNumber READ channelNumber NOTIFY channelChanged)
-    Q_PROPERTY(QUrl channelLogo READ channelLogo NOTIFY channelChanged)
+    /*! Its programmes can be looked at, but there is no picture. */
+    Q_PROPERTY(bool locked READ isLocked NOTIFY channelChanged)
 
     /*! The programme that is watched; empty when the channel has none at that moment. */
     Q_PROPERTY(QString title READ title NOTIFY playingChanged)
     Q_PROPERTY(QString facts READ facts NOTIFY playingChanged)
+    /*! Empty as well while the channel is locked. */
     Q_PROPERTY(QUrl picture READ picture NOTIFY playingChanged)
     Q_PROPERTY(QString startText READ startText NOTIFY playingChanged)
     Q_PROPERTY(QString stopText READ stopText NOTIFY playingChanged)
@@ -86,11 +88,11 @@ public:
     int channelRow() const { return m_channelRow; }
     QString channelName() const { return channel().name; }
     QString channelNumber() const { return channel().number; }
-    QUrl channelLogo() const { return channel().icon; }
+    bool isLocked() const { return channel().locked; }
 
     QString title() const { return watched(PlayerProgrammes::TitleRole).toString(); }
     QString facts() const;
-    QUrl picture() const { return watched(PlayerProgrammes::PictureRole).toUrl(); }
+    QUrl picture() const { return isLocked() ? QUrl() : watched(PlayerProgrammes::PictureRole).toUrl(); }
     QString startText() const;
     QString stopText() const;
     double progress() const;

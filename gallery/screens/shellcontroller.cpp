@@ -52,6 +52,8 @@ void ShellController::connectScreens()
     connect(&m_guide, &GuideController::leaveRequested, this, &ShellController::goBack);
     connect(&m_channels, &ChannelsController::playRequested, this, &ShellController::openPlayer);
     connect(&m_channels, &ChannelsController::leaveRequested, this, &ShellController::goBack);
+    connect(&m_player, &PlayerController::channelChanged, this,
+            [this] { m_channels.setPlaying(m_player.channelRow()); });
     connect(&m_player, &PlayerController::guideRequested, this, openGuide);
     connect(&m_player, &PlayerController::leaveRequested, this, &ShellController::goBack);
     connect(&m_series, &SeriesController::backRequested, this, &ShellController::goBack);

@@ -248,6 +248,27 @@
 <context>
     <name>PlayerScreen</name>
     <message>
+        <source>This channel is locked</source>
+        <translation>هذه القناة مقفلة</translation>
+    </message>
+    <message>
+        <source>Programmes</source>
+        <translation>البرامج</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>القناة</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>إجراءات</translation>
+    </message>
+    <message>
         <source>There is nothing on now</source>
         <translation>لا شيء يُعرض الآن</translation>
     </message>

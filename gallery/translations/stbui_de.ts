@@ -248,6 +248,27 @@
 <context>
     <name>PlayerScreen</name>
     <message>
+        <source>This channel is locked</source>
+        <translation>Dieser Sender ist gesperrt</translation>
+    </message>
+    <message>
+        <source>Programmes</source>
+        <translation>Sendungen</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Sender</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Aktionen</translation>
+    </message>
+    <message>
         <source>There is nothing on now</source>
         <translation>Im Moment läuft nichts</translation>
     </message>

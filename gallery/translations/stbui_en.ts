@@ -248,6 +248,27 @@
 <context>
     <name>PlayerScreen</name>
     <message>
+        <source>This channel is locked</source>
+        <translation>This channel is locked</translation>
+    </message>
+    <message>
+        <source>Programmes</source>
+        <translation>Programmes</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Channel</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Actions</translation>
+    </message>
+    <message>
         <source>There is nothing on now</source>
         <translation>There is nothing on now</translation>
     </message>

@@ -248,6 +248,27 @@
 <context>
     <name>PlayerScreen</name>
     <message>
+        <source>This channel is locked</source>
+        <translation>Этот канал заблокирован</translation>
+    </message>
+    <message>
+        <source>Programmes</source>
+        <translation>Передачи</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Канал</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Действия</translation>
+    </message>
+    <message>
         <source>There is nothing on now</source>
         <translation>Сейчас в эфире ничего нет</translation>
     </message>

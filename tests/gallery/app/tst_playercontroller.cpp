@@ -356,6 +356,25 @@ private Q_SLOTS:
         QVERIFY(m->player.isPaused());
     }
 
+    void aLockedChannelHasProgrammesButNoPicture()
+    {
+        gallery::GuideBuilder builder;
+        gallery::Channel channel;
+        channel.id = "a";
+        channel.locked = true;
+        builder.addChannel(channel);
+        guides::addChannel(builder, "a", guides::wholeDay("A", 30));
+        guides::addChannel(builder, "b", guides::wholeDay("B", 30));
+        m->player.setGuide(builder.take());
+        QVERIFY(m->player.play(0));
+        QVERIFY(m->player.isLocked());
+        QCOMPARE(m->player.title(), "A40");
+        QCOMPARE(m->player.picture(), QUrl());
+        m->press({ Qt::Key_ChannelUp });
+        QVERIFY(!m->player.isLocked());
+        QVERIFY(!m->player.picture().isEmpty());
+    }
+
     void theChannelBecomesAFavourite()
     {
         m->player.play(1);

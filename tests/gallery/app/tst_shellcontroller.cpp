@@ -98,6 +98,18 @@ private Q_SLOTS:
         QCOMPARE(m->screen(), "guide");
     }
 
+    void theChannelThatIsWatchedIsMarkedAmongTheChannels()
+    {
+        fill();
+        m->start("channels");
+        m->channels()->press(Qt::Key_Down);
+        m->channels()->press(Qt::Key_Return);
+        QCOMPARE(m->openScreens(), (QStringList { "home", "channels", "player" }));
+        QCOMPARE(m->player()->channelName(), "Channel b");
+        m->player()->press(Qt::Key_ChannelUp);
+        QCOMPARE(m->channels()->playing(), 2);
+    }
+
     void aChannelThatThereIsNotOpensNothing()
     {
         fill();
