@@ -239,7 +239,9 @@ void StbExpandableTilePrivate::customFocusRectChanged()
 void StbExpandableTilePrivate::loadImage()
 {
     Q_Q(StbExpandableTile);
-    if (!m_poster.load(q, m_imageSource, SLOT(processImageReceived())))
+    const bool loading = m_poster.load(q, m_imageSource, SLOT(processImageReceived()));
+    // Nothing to show, nothing to fade: the next picture would find the fade under way and pop in.
+    if (!loading && !m_poster.size().isEmpty())
         q->processImageReceived();
 }
 

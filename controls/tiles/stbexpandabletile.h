@@ -24,7 +24,8 @@ class StbExpandableTilePrivate;
 
     Both animations have the design system's durations (focus: at least 1 ms) and are switched by QmlSettings when
     the component is complete. Without the settings or the design system, or with the focus animation switched
-    off, growing takes 1 ms; without them, or with a fade duration of 0 or less, a picture does not fade.
+    off, growing takes 1 ms; without them, or with a fade duration of 0 or less, a picture does not fade. A fade
+    goes on to its end without a style too, so that no picture stays half transparent.
 
     The style owns the tile's size: width and height become those of tileRect when a style is set and once more when
     the component is complete, whatever they were bound to, and without a change signal. A style that is set later
@@ -44,14 +45,14 @@ class StbExpandableTile : public QQuickItem
     /*!
         The design. Not owned; one that is destroyed counts as null. The tile acts on a new style object; it does
         not listen to changes inside the object. The frame keeps the fill and the pen that it was made with until it
-        has gone once. Null by default; resettable.
+        has gone once. A borderPen without a colour, or thinner than 1, paints no border. Null by default; resettable.
     */
     Q_PROPERTY(
             design_system::TileQmlStyle *style READ style WRITE setStyle RESET resetStyle NOTIFY styleChanged)
     /*!
         Where the picture is; a relative URL is taken from the QML document. It is loaded asynchronously once
         the component is complete, and fades in. While it loads, and when it cannot be loaded, the background is
-        shown. Empty by default.
+        shown. An empty or invalid URL takes the picture away and fades nothing. Empty by default.
     */
     Q_PROPERTY(QUrl imageSource READ imageSource WRITE setImageSource NOTIFY imageSourceChanged)
     /*!

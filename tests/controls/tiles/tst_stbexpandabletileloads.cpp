@@ -94,13 +94,8 @@ private Q_SLOTS:
         QCOMPARE(scene.types(), (QStringList { "Image", "InternalRectangle" }));
     }
 
-    void aSourceThatCannotBeLoadedFadesNothingAndKeepsTheBackground_data()
-    {
-        QTest::addColumn<QUrl>("source");
-        QTest::newRow("empty") << QUrl();
-        QTest::newRow("invalid") << QUrl("http://[");
-    }
-    void aSourceThatCannotBeLoadedFadesNothingAndKeepsTheBackground()
+    void aSourceThatCannotBeAskedForTakesThePictureAwayAndStartsNoFade_data() { emptySources(); }
+    void aSourceThatCannotBeAskedForTakesThePictureAwayAndStartsNoFade()
     {
         QFETCH(QUrl, source);
         Scene scene(true);
@@ -108,12 +103,31 @@ private Q_SLOTS:
         finish(scene.d()->m_fadeTimeLine);
         scene.stage.renderFrame();
         scene.tile->setImageSource(source);
-        QCOMPARE(scene.d()->m_fadeTimeLine.state(), QTimeLine::Running);
+        QCOMPARE(scene.d()->m_fadeTimeLine.state(), QTimeLine::NotRunning);
+        QCOMPARE(scene.d()->m_imageOpacity, 1.0);
+        QVERIFY(scene.stage.wantsFrame());
         scene.stage.renderFrame();
         QCOMPARE(scene.types(), (QStringList { "Rectangle", "InternalRectangle" }));
+        QVERIFY(!scene.stage.wantsFrame());
+    }
+
+    void aPictureAfterAnEmptySourceFadesInFromNothing_data() { emptySources(); }
+    void aPictureAfterAnEmptySourceFadesInFromNothing()
+    {
+        QFETCH(QUrl, source);
+        Scene scene(true);
+        const QTimeLine &fade = scene.d()->m_fadeTimeLine;
+        QVERIFY(scene.show(fieldsPicture()));
         finish(scene.d()->m_fadeTimeLine);
-        QVERIFY(scene.stage.renderFrame().isEmpty());
-        QCOMPARE(scene.types(), (QStringList { "Rectangle", "InternalRectangle" }));
+        scene.stage.renderFrame();
+        scene.tile->setImageSource(source);
+        QCOMPARE(fade.currentTime(), fade.duration()); // where the first picture's ended
+        QVERIFY(scene.show(plainPicture(Qt::red), "other"));
+        QCOMPARE(fade.state(), QTimeLine::Running);
+        QCOMPARE(fade.currentTime(), 0);
+        QCOMPARE(scene.d()->m_imageOpacity, 0.0);
+        scene.stage.renderFrame();
+        QCOMPARE(scene.types(), (QStringList { "Rectangle", "Opacity", "InternalRectangle" }));
     }
 
     void aTileMayGoWhileItsPictureLoads()
@@ -143,6 +157,14 @@ private Q_SLOTS:
         QCOMPARE(scene.types(), (QStringList { "Image", "InternalRectangle" }));
         QCOMPARE(scene.children()[0].pixmap.toImage(), fieldsPicture());
         scene.tile->setParentItem(scene.stage.contentItem());
+    }
+
+private:
+    static void emptySources()
+    {
+        QTest::addColumn<QUrl>("source");
+        QTest::newRow("empty") << QUrl();
+        QTest::newRow("invalid") << QUrl("http://[");
     }
 };
 
