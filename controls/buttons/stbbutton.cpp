@@ -509,7 +509,7 @@ QSGNode *StbButton::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *)
     const design_system::QmlButtonStyle style = d->m_style->style();
     auto *root = static_cast<QSGRectangleNode *>(oldNode ? oldNode : d->createRoot());
     d->updateContent(root, style);
-    setNodeColor(root, d->stateColor(style.backgroundColors));
+    setNodeColor(root, visibleColor(d->stateColor(style.backgroundColors)));
     setNodeRect(root, QRectF(0, 0, width(), height()));
     return root;
 }

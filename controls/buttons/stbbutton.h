@@ -14,7 +14,8 @@ class StbButtonPrivate;
     items. It handles no keys: who has the focus and what is checked is told from outside.
 
     Every colour is one of four of the style: disabled, while the item or one that it lies in is not enabled,
-    else checked, else focused, else normal. An icon takes the colour with all its pixels but the black ones.
+    else checked, else focused, else normal. An icon takes the colour with all its pixels but the black ones. A
+    background whose colour is not set is not painted.
 
     A button of fixed width, which every one is until isFixedWidth is assigned, has the style's size unless it
     is given another. Its lines stand in the middle of the height and share the width between the icons: the

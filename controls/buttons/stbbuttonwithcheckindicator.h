@@ -11,7 +11,8 @@ class StbButtonWithCheckIndicatorPrivate;
     \c ButtonWithCheckIndicator. The mark is there while the button shows any content or its throbber.
 
     Its place follows the style and the button's height. Its colour is taken from the style when the mark
-    appears: another style's colour shows when the button is unchecked and checked again.
+    appears: another style's colour shows when the button is unchecked and checked again. Without a colour, or with
+    a width or height of 0 or less, nothing of it is painted.
 */
 class StbButtonWithCheckIndicator : public StbButton
 {

@@ -230,18 +230,19 @@ QSGNode *StbEpgViewDelegatePrivate::createRoot()
 
 QSGRectangleNode *StbEpgViewDelegatePrivate::updateBadge(ChildNodes &children, const Style &style)
 {
+    const QColor fill = visibleColor(style.liveBadgeColor);
     auto *badge =
             children.place<QSGRectangleNode>(m_live, m_liveNodesPresent, [&](QSGNode *root, QSGNode *before) {
                 QSGContext *context = sceneGraphContext();
                 QSGRenderContext *renderContext = sceneGraphRenderContext();
-                QSGRectangleNode *node = createRectangleNode(context, style.liveBadgeColor, root, before);
+                QSGRectangleNode *node = createRectangleNode(context, fill, root, before);
                 m_liveText.createNode(context, renderContext, node, nullptr);
                 m_liveIndicator.createNode(context, renderContext, node, nullptr);
                 return node;
             });
     if (!badge)
         return nullptr;
-    setNodeColor(badge, style.liveBadgeColor);
+    setNodeColor(badge, fill);
     setNodeRect(badge, QRectF(m_liveBadgeRect));
     auto *label = static_cast<QSGImageNode *>(badge->childAtIndex(0));
     m_liveText.updateNode(label, style.liveTextStyle.color, nullptr);

@@ -18,7 +18,8 @@ class StbEpgViewDelegatePrivate;
     or height of 0 or less, the row paints nothing; without a style or width it keeps its height.
 
     The badge's icon is ":/resources/icons/live_status_on.png" of the application; without it the badge holds
-    the label alone. The label is the application's translation of "NOW_IN_LIVE" in the context "QObject".
+    the label alone. The label is the application's translation of "NOW_IN_LIVE" in the context "QObject". A badge
+    whose colour is not set has no ground below them.
 
     Subtitle and badge label share layouts and pixmaps with all rows of the same text, font and colour, whatever
     the widths are.

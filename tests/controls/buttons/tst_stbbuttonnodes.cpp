@@ -91,6 +91,21 @@ private Q_SLOTS:
         QVERIFY(stbtest::isPaintedIn(nodes[3].pixmap, color(style.rightIconColors)));
     }
 
+    void anInvalidColourPaintsNothing()
+    {
+        Scene scene;
+        design_system::QmlButtonStyle colourless = oddButtonStyle();
+        colourless.backgroundColors = {};
+        scene.style.setStyle(colourless);
+        scene.button.setSize(QSizeF(313, 87));
+        scene.stage.renderFrame();
+        const QImage bare = scene.stage.picture();
+        scene.button.setStyle(&scene.style);
+        scene.stage.renderFrame();
+        QCOMPARE(scene.root().rect, QRectF(0, 0, 313, 87));
+        QCOMPARE(scene.stage.picture(), bare);
+    }
+
     void aDisabledParentDisablesTheButton()
     {
         Scene scene;

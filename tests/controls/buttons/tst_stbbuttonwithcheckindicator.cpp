@@ -232,6 +232,46 @@ private Q_SLOTS:
         QCOMPARE(scene.root().color, QColor(50, 50, 50));
     }
 
+    void anInvalidColourPaintsNothing()
+    {
+        design_system::QmlButtonStyle colourless = oddButtonStyle();
+        colourless.checkIndicatorColor = QColor();
+        const auto check = [&](auto &scene) {
+            scene.style.setStyle(colourless);
+            scene.fill();
+            scene.button.setChecked(true);
+            scene.stage.renderFrame();
+            return scene.children().size();
+        };
+        Scene scene;
+        QCOMPARE(check(scene), 5);
+        ButtonScene<StbButton> without;
+        QCOMPARE(check(without), 4);
+        QCOMPARE(scene.stage.picture(), without.stage.picture());
+    }
+
+    void aSizeBelowNothingIsNone_data()
+    {
+        QTest::addColumn<QRect>("size");
+        QTest::addColumn<QRectF>("rect");
+        QTest::newRow("width") << QRect(0, 0, -5, 9) << QRectF(17, 87 - 9 - 3, 0, 0);
+        QTest::newRow("height") << QRect(0, 0, 37, -5) << QRectF(17, 87 - 3, 0, 0);
+        QTest::newRow("null") << QRect() << QRectF(17, 87 - 3, 0, 0);
+    }
+    void aSizeBelowNothingIsNone()
+    {
+        QFETCH(QRect, size);
+        QFETCH(QRectF, rect);
+        Scene scene;
+        design_system::QmlButtonStyle style = oddButtonStyle();
+        style.checkIndicatorSize = size;
+        scene.style.setStyle(style);
+        scene.fill();
+        scene.button.setChecked(true);
+        scene.stage.renderFrame();
+        QCOMPARE(scene.children().last().rect, rect);
+    }
+
     void aButtonWithoutContentShowsNoIndicator()
     {
         Scene scene;

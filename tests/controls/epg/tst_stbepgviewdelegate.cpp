@@ -235,6 +235,27 @@ private Q_SLOTS:
         QCOMPARE(scene.row.height(), plainHeight);
     }
 
+    void anInvalidColourPaintsNothing()
+    {
+        const NowInLive translator("LIVE");
+        Style colourless = oddEpgStyle();
+        colourless.liveBadgeColor = QColor();
+        StyleObject object;
+        object.setStyle(colourless);
+        for (const bool late : { false, true }) {
+            Scene scene;
+            scene.fill();
+            scene.row.setLive(true);
+            if (late)
+                scene.stage.renderFrame();
+            scene.row.setStyle(&object);
+            scene.stage.renderFrame();
+            QCOMPARE(scene.children().size(), 4);
+            const QPoint corner = scene.children()[3].rect.topLeft().toPoint() + QPoint(20, 30);
+            QCOMPARE(scene.stage.picture().pixelColor(corner), QColor(0, 60, 40));
+        }
+    }
+
     void coloursFollowTheState_data()
     {
         QTest::addColumn<bool>("live");
