@@ -160,6 +160,37 @@ private Q_SLOTS:
         QVERIFY(button.isCheckable());
     }
 
+    void whatOnlyRepaintsAsksForAFrameOnItsOwn_data()
+    {
+        QTest::addColumn<bool>("forced"); // before
+        QTest::addColumn<QByteArray>("property");
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<QColor>("title"); // after
+        const QColor first(255, 0, 255);
+        const QColor second(0, 255, 255);
+        QTest::newRow("titleForcedColor")
+                << true << QByteArray("titleForcedColor") << QVariant(second) << second;
+        QTest::newRow("forceTitleColor") << false << QByteArray("forceTitleColor") << QVariant(true) << first;
+        QTest::newRow("checkable") << true << QByteArray("checkable") << QVariant(true) << first;
+    }
+    void whatOnlyRepaintsAsksForAFrameOnItsOwn()
+    {
+        QFETCH(bool, forced);
+        QFETCH(QByteArray, property);
+        QFETCH(QVariant, value);
+        QFETCH(QColor, title);
+        Scene scene;
+        scene.fill();
+        scene.button.setForceTitleColor(forced);
+        scene.button.setTitleForcedColor(QColor(255, 0, 255));
+        scene.stage.renderFrame();
+        QVERIFY(!scene.stage.wantsFrame());
+        QVERIFY(scene.button.setProperty(property, value));
+        QVERIFY(scene.stage.wantsFrame());
+        scene.stage.renderFrame();
+        QVERIFY(stbtest::isPaintedIn(scene.children()[1].pixmap, title));
+    }
+
     void theRoundingRadiusIsAlwaysNothing()
     {
         StbButton button;

@@ -3,11 +3,38 @@
 #include "testkit/testcase.h"
 
 #include <controls/buttons/stbbutton.h>
+#include <controls/buttons/stbbutton_p.h>
 
 #include <limits>
 
 using Scene = ButtonScene<StbButton>;
 using StyleObject = design_system::ButtonQmlStyle;
+
+namespace {
+
+// A derived button that writes down what it is asked.
+class LoggingButtonPrivate : public StbButtonPrivate
+{
+public:
+    void processStyleChanged(const Style &style) override
+    {
+        log += QStringLiteral("style %1, height %2").arg(style.size.width()).arg(implicitHeight);
+        StbButtonPrivate::processStyleChanged(style);
+    }
+    QStringList log;
+};
+
+class LoggingButton : public StbButton
+{
+public:
+    LoggingButton()
+        : StbButton(*new LoggingButtonPrivate, nullptr)
+    {
+    }
+    QStringList &log() { return static_cast<LoggingButtonPrivate *>(QQuickItemPrivate::get(this))->log; }
+};
+
+} // namespace
 
 // How large a button is, and what of its texts it has room for.
 class tst_StbButtonSize : public stbtest::TestCase
@@ -41,6 +68,59 @@ private Q_SLOTS:
         scene.fill();
         QCOMPARE(scene.button.implicitWidth(), 0);
         QCOMPARE(scene.button.implicitHeight(), 0);
+    }
+
+    void aDerivedButtonHearsOfAStyleBeforeItIsLaidOut()
+    {
+        StyleObject style;
+        style.setStyle(oddButtonStyle());
+        LoggingButton button;
+        button.setTitleText("Watch now");
+        connect(&button, &StbButton::styleChanged, this, [&] { button.log() += "signal"; });
+        button.setStyle(&style);
+        QCOMPARE(button.log(), (QStringList { "signal", "style 313, height 0" }));
+        QCOMPARE(button.implicitHeight(), 87);
+        button.setStyle(&style);
+        QCOMPARE(button.log().size(), 2);
+        button.setStyle(nullptr);
+        QCOMPARE(button.log(), (QStringList { "signal", "style 313, height 0", "signal" }));
+    }
+
+    void aWidthOfNothingFallsBackToTheImplicitOne_data()
+    {
+        QTest::addColumn<double>("width");
+        QTest::newRow("none") << 0.;
+        QTest::newRow("negative") << -3.;
+    }
+    void aWidthOfNothingFallsBackToTheImplicitOne()
+    {
+        QFETCH(double, width);
+        Scene scene;
+        scene.fill();
+        scene.button.setWidth(width);
+        QCOMPARE(scene.button.implicitWidth(), 313);
+        scene.button.setTitleText("Watch now, from the very beginning to the end");
+        QCOMPARE(scene.button.implicitWidth(), 313);
+        QCOMPARE(scene.button.width(), width);
+    }
+
+    void aHeightOfLessThanOneCountsAsNone_data()
+    {
+        QTest::addColumn<double>("height");
+        QTest::addColumn<double>("implicitHeight");
+        QTest::newRow("less than one") << 0.9 << 87.;
+        QTest::newRow("negative") << -3. << 87.;
+        QTest::newRow("one") << 1. << 0.;
+    }
+    void aHeightOfLessThanOneCountsAsNone()
+    {
+        QFETCH(double, height);
+        QFETCH(double, implicitHeight);
+        Scene scene;
+        scene.button.setHeight(height);
+        scene.fill();
+        QCOMPARE(scene.button.implicitHeight(), implicitHeight);
+        QCOMPARE(scene.button.height(), height);
     }
 
     void aGivenWidthBecomesTheImplicitOne()

@@ -146,6 +146,20 @@ private Q_SLOTS:
         QVERIFY(scene.renderer().isRunning());
     }
 
+    void aHiddenThrobberKeepsNoPixels()
+    {
+        Scene scene;
+        scene.showBusy();
+        const QPixmap shown = scene.children().first().pixmap;
+        QVERIFY(!shown.isDetached());
+        scene.button.setThrobberVisible(false);
+        scene.stage.renderFrame();
+        QVERIFY(shown.isDetached()); // only this test holds them still
+        scene.button.setThrobberVisible(true);
+        scene.stage.renderFrame();
+        QVERIFY(hasInk(scene.children().first().pixmap));
+    }
+
     void anInvisibleButtonsThrobberDoesNotRun()
     {
         Scene scene;

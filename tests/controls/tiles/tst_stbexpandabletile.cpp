@@ -175,6 +175,21 @@ private Q_SLOTS:
         QCOMPARE(scene.tile->customFocusRect(), QRect(9, 15, 77, 33));
     }
 
+    void aStyleWithAnEqualTileRectangleTellsOfNoNewOne()
+    {
+        Scene scene;
+        Style other = otherTileStyle();
+        other.tileRect = oddTileStyle().tileRect;
+        StyleObject object;
+        object.setStyle(other);
+        QSignalSpy changed(scene.tile.get(), &StbExpandableTile::customFocusRectChanged);
+        scene.tile->setStyle(&object);
+        QCOMPARE(changed.count(), 0);
+        scene.tile->setCustomFocusRect(QRect(3, 5, 7, 9)); // nothing but an equal one keeps it silent
+        scene.tile->setStyle(&scene.style);
+        QCOMPARE(changed.count(), 2);
+    }
+
     void theSizeIsWrittenWithoutANotification()
     {
         Scene scene;

@@ -191,6 +191,19 @@ private Q_SLOTS:
         QCOMPARE(scene.painted()[0].rect.width(), 20 + ratingExtent("12+").width());
     }
 
+    void anEmptiedBadgeThatGoesWithTheStyleDoesNotComeBack()
+    {
+        Scene scene;
+        scene.tile.setRating("12+");
+        QCOMPARE(scene.painted().size(), 1);
+        scene.tile.setRating(QString());
+        QCOMPARE(scene.painted().size(), 1);
+        scene.tile.setStyle(nullptr);
+        scene.stage.renderFrame();
+        scene.tile.setStyle(&scene.style);
+        QVERIFY(scene.painted().isEmpty());
+    }
+
     void theBarShowsThePartThatWasWatched()
     {
         Scene scene;

@@ -74,6 +74,19 @@ private Q_SLOTS:
         STB_COMPARE_GOLDEN(scene.stage.picture(), "vodtile-focused", sameGlyphs);
     }
 
+    void allMarksAndNoPictureShowThePicturesOfTheSoftwareAdaptation()
+    {
+        Scene<StbVodTile> scene("VodTile", caption + marks);
+        QTRY_VERIFY(isPosterLoaded(scene.tile.get()) && isLogoLoaded(scene.tile.get()));
+        scene.tile->setFavorite(true);
+        scene.tile->setStatus("New");
+        STB_COMPARE_GOLDEN(scene.stage.picture(), "vodtile-all-badges", sameGlyphs);
+        scene.tile->setFavorite(false);
+        scene.tile->setStatus(QString());
+        scene.tile->setImageSource(QUrl());
+        STB_COMPARE_GOLDEN(scene.stage.picture(), "vodtile-without-picture", sameGlyphs);
+    }
+
     void emptiedTextsLeaveNoHole()
     {
         Scene<StbVodTile> scene("VodTile",

@@ -63,6 +63,18 @@ private Q_SLOTS:
         QVERIFY(d->m_rightholderImage.takeReloaded());
     }
 
+    void theSignalComesBeforeTheLoad()
+    {
+        Scene scene(QString {});
+        scene.stage.renderFrame();
+        bool loading = true;
+        connect(scene.tile.get(), &StbVodTile::rightholderImageSourceChanged, this,
+                [&] { loading = scene.d()->m_rightholderImage.takeReloaded(); });
+        scene.tile->setRightholderImageSource(QUrl("qrc:/pictures/logo.png"));
+        QVERIFY(!loading);
+        QVERIFY(scene.d()->m_rightholderImage.takeReloaded());
+    }
+
     void theBarLiftsTheLogoAndLetsItDropAgain()
     {
         Scene scene;

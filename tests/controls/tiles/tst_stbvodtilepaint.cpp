@@ -174,19 +174,29 @@ private Q_SLOTS:
     {
         QTest::addColumn<double>("progress");
         QTest::addColumn<double>("timepoint");
-        QTest::newRow("resting") << 0. << 1.;
-        QTest::newRow("half-way") << 0.5 << 1.;
-        QTest::newRow("focused") << 1. << 1.;
-        QTest::newRow("full-bar") << 0. << 4.;
-        QTest::newRow("no-bar") << 0. << 0.;
+        QTest::addColumn<bool>("picture");
+        QTest::addColumn<bool>("captions"); // the optional ones too: status and favourite icon
+        QTest::newRow("resting") << 0. << 1. << true << false;
+        QTest::newRow("half-way") << 0.5 << 1. << true << false;
+        QTest::newRow("focused") << 1. << 1. << true << false;
+        QTest::newRow("full-bar") << 0. << 4. << true << false;
+        QTest::newRow("no-bar") << 0. << 0. << true << false;
+        QTest::newRow("without-picture") << 0. << 1. << false << false;
+        QTest::newRow("all-badges") << 0. << 1. << true << true;
     }
     void pictures()
     {
         QFETCH(double, progress);
         QFETCH(double, timepoint);
+        QFETCH(bool, picture);
+        QFETCH(bool, captions);
         Scene scene;
         scene.tile->setTimepoint(timepoint);
         QTRY_VERIFY(scene.isLoaded());
+        if (!picture)
+            scene.tile->setImageSource(QUrl());
+        scene.tile->setFavorite(captions);
+        scene.tile->setStatus(captions ? "New" : "");
         if (progress > 0)
             holdFocusAnimation(scene.tile.get(), progress);
         scene.stage.renderFrame();
