@@ -91,6 +91,15 @@ void TintedIcon::setPictureSize(QSize size)
     Q_EMIT pictureSizeChanged();
 }
 
+void TintedIcon::setMirrored(bool mirrored)
+{
+    if (mirrored == m_isMirrored)
+        return;
+    m_isMirrored = mirrored;
+    Q_EMIT mirroredChanged();
+    invalidate();
+}
+
 void TintedIcon::invalidate()
 {
     m_isStale = true;
@@ -129,12 +138,13 @@ QImage TintedIcon::makePicture()
     const QSize pixels(qRound(width() * ratio), qRound(height() * ratio));
     if (m_path.isEmpty() || m_isUnreadable || pixels.isEmpty())
         return {};
-    const QString key = QStringLiteral("stbgeneric:%1:%2x%3:%4:%5")
+    const QString key = QStringLiteral("stbgeneric:%1:%2x%3:%4:%5:%6")
                                 .arg(m_path)
                                 .arg(pixels.width())
                                 .arg(pixels.height())
                                 .arg(m_color.isValid() ? m_color.name(QColor::HexArgb) : QString())
-                                .arg(m_radius);
+                                .arg(m_radius)
+                                .arg(m_isMirrored);
     QPixmap shared;
     if (QPixmapCache::find(key, &shared))
         return shared.toImage();
@@ -144,7 +154,7 @@ QImage TintedIcon::makePicture()
         qmlWarning(this) << "Cannot open: " << m_path;
         return {};
     }
-    const QImage picture = compose(source, pixels, m_color, m_radius * ratio);
+    const QImage picture = compose(source.mirrored(m_isMirrored, false), pixels, m_color, m_radius * ratio);
     QPixmapCache::insert(key, QPixmap::fromImage(picture));
     return picture;
 }

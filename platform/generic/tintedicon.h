@@ -29,6 +29,8 @@ class TintedIcon : public QQuickItem
     Q_PROPERTY(qreal radius READ radius WRITE setRadius NOTIFY radiusChanged)
     /*! The size that the icon asks for (implicitWidth, implicitHeight); 24 x 24 by default. */
     Q_PROPERTY(QSize pictureSize READ pictureSize WRITE setPictureSize NOTIFY pictureSizeChanged)
+    /*! Whether left and right are exchanged; false by default. */
+    Q_PROPERTY(bool mirrored READ isMirrored WRITE setMirrored NOTIFY mirroredChanged)
     QML_ELEMENT
 public:
     explicit TintedIcon(QQuickItem *parent = nullptr);
@@ -36,18 +38,21 @@ public:
     QString path() const { return m_path; }
     QColor color() const { return m_color; }
     qreal radius() const { return m_radius; }
+    bool isMirrored() const { return m_isMirrored; }
     QSize pictureSize() const { return m_pictureSize; }
 
     void setPath(const QString &path);
     void setColor(const QColor &color);
     void resetColor() { setColor(QColor()); }
     void setRadius(qreal radius);
+    void setMirrored(bool mirrored);
     void setPictureSize(QSize size);
 
 Q_SIGNALS:
     void pathChanged();
     void colorChanged();
     void radiusChanged();
+    void mirroredChanged();
     void pictureSizeChanged();
 
 protected:
@@ -63,6 +68,7 @@ private:
     QString m_path;
     QColor m_color;
     qreal m_radius = 0;
+    bool m_isMirrored = false;
     QSize m_pictureSize { 24, 24 };
     QImage m_picture;
     bool m_isStale = true; //!< m_picture has yet to be made
