@@ -4,6 +4,7 @@
 
 #include "scenegraph/textnodebuilder.h"
 
+#include <cmath>
 #include <type_traits>
 
 namespace qml_basic_plugin {
@@ -19,6 +20,10 @@ bool assign(Control *control, Value &member, const std::type_identity_t<Value> &
 {
     if (member == value)
         return false;
+    if constexpr (std::is_floating_point_v<Value>) {
+        if (std::isnan(member) && std::isnan(value))
+            return false; // not-a-number never equals itself
+    }
     member = value;
     Q_EMIT(control->*changed)();
     return true;

@@ -8,8 +8,6 @@
 
 #include <QtCore/qcoreapplication.h>
 
-#include <cmath>
-
 using namespace qml_basic_plugin;
 
 namespace {
@@ -66,8 +64,6 @@ double StbEpgViewDelegateFocused::progress() const
 void StbEpgViewDelegateFocused::setProgress(double progress)
 {
     Q_D(StbEpgViewDelegateFocused);
-    if (std::isnan(progress) && std::isnan(d->m_progress))
-        return; // not-a-number never equals itself
     if (assign(this, d->m_progress, progress, &StbEpgViewDelegateFocused::progressChanged))
         update();
 }

@@ -32,6 +32,8 @@ class StbEpgViewDelegateFocusedPrivate;
 
     Status and action label share layouts and pixmaps with all rows of the same text, font and colour, whatever the
     widths are.
+
+    Another style moves everything on the card at once, the picture too, whatever size the texts have in it.
 */
 class StbEpgViewDelegateFocused : public StbEpgViewDelegate
 {

@@ -95,8 +95,9 @@ void StbEpisodesViewDelegate::setListItemType(const QString &type)
     d->setItemType(type);
     if (isComponentComplete())
         d->loadPlayIcon();
+    const bool statusMoved = status() != shownStatus; // before a handler can set another one
     Q_EMIT listItemTypeChanged();
-    if (status() != shownStatus)
+    if (statusMoved)
         Q_EMIT statusChanged();
     update();
 }

@@ -352,6 +352,8 @@ StbTvChannelViewDelegatePrivate::Layout::Content StbTvChannelViewDelegatePrivate
     m_textWidth = textWidth;
     if (setUp) {
         m_channelNumber.setupRenderer(style.channelNumberTextStyle, style.channelNumberTextStyle.rect.width());
+        // Without room there is nothing to share: the rows to come would find no text under theirs.
+        m_channelQuality.setCachingEnabled(textWidth > 0);
         m_channelQuality.setupRenderer(style.qualityTextStyle, textWidth);
         m_programName.setupRenderer(style.programNameTextStyle, textWidth);
     }

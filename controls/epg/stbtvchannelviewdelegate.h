@@ -32,7 +32,8 @@ class StbTvChannelViewDelegatePrivate;
     when the channel goes live.
 
     Quality texts share layouts and pixmaps with all rows of the same text, font and colour, whatever the widths
-    are.
+    are: a row so narrow that it cuts its badge cuts it for all that come while it is remembered. A row without any
+    room for texts shares nothing.
 */
 class StbTvChannelViewDelegate : public QQuickItem
 {

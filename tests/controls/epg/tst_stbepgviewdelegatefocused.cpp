@@ -82,8 +82,10 @@ private Q_SLOTS:
         QVERIFY(scene.row->setProperty(property, value));
         QCOMPARE(emitted(), QByteArrayList { signal });
         QCOMPARE(scene.row->property(property), value);
+        scene.stage.renderFrame();
         QVERIFY(scene.row->setProperty(property, value));
         QCOMPARE(emitted(), QByteArrayList { signal });
+        QVERIFY(!scene.stage.wantsFrame());
     }
 
     void aProgressThatIsNoNumberSignalsOnce()
@@ -216,7 +218,7 @@ private Q_SLOTS:
         scene.fill();
         scene.stage.renderFrame();
         scene.row->setHeight(500); // a relayout would write its own height back
-        scene.setState(false, false, false, true, true);
+        scene.setState(false, false, true, true, true);
         scene.stage.renderFrame();
         scene.row->setProgress(0.3);
         scene.row->setPlayable(true);

@@ -82,6 +82,35 @@ private Q_SLOTS:
         QCOMPARE(parts[3].rect, QRectF(layout.reminderIcon));
     }
 
+    void theCardsTextsKeepToItsWidthAndTheirLines()
+    {
+        const QString longSoon = "The broadcast of this programme begins in not so many minutes from now on";
+        const QString longAction =
+                "Please be so kind as to remind me of this programme in time before it begins";
+        FocusedScene scene;
+        design_system::PlayerEpgDelegateStyle style = oddEpgStyle();
+        style.statusTextStyle.maxLineCount = 2;
+        scene.style.setStyle(style);
+        auto &words = const_cast<EpgWords &>(scene.words).words;
+        words[{ "QObject", "LIVE_SOON" }] = longSoon;
+        words[{ "QObject", "ADD_REMINDER" }] = longAction;
+        scene.fill();
+        scene.row->setStartTimeText("20:05 in the evening of the day before the last one of this long year");
+        apply(scene, future);
+        scene.stage.renderFrame();
+        const auto laidOut = [](const design_system::TextStyle &text, const QString &string) {
+            return textExtent(text, string, 417).size();
+        };
+        const QString startsAt = "From " + scene.row->startTimeText();
+        QVERIFY(textExtent(style.statusTextStyle, longSoon).width() > 417);
+        QVERIFY(textExtent(style.startsAtTextStyle, startsAt).width() > 417);
+        QVERIFY(textExtent(style.reminderActionTextStyle, longAction).width() > 417);
+        QCOMPARE(scene.parts()[0].pixmap.size(), laidOut(style.statusTextStyle, longSoon));
+        QCOMPARE(stbtest::childNodes(scene.parts()[1].node)[0].pixmap.size(),
+                 laidOut(style.reminderActionTextStyle, longAction));
+        QCOMPARE(scene.parts()[2].pixmap.size(), laidOut(style.startsAtTextStyle, startsAt));
+    }
+
     void theNoticeStandsInTheMiddle()
     {
         FocusedScene scene;

@@ -6,6 +6,8 @@
 #include <QtQml/qqmlcomponent.h>
 #include <QtTest/qsignalspy.h>
 
+#include <limits>
+
 using Scene = OffscreenTvChannelScene;
 using StyleObject = design_system::PlayerTvChannelItemQmlStyle;
 using stbtest::HandPictures;
@@ -101,6 +103,15 @@ private Q_SLOTS:
         QVERIFY(scene.row->setProperty(name, value));
         QCOMPARE(all.emitted(), QByteArrayList { signal });
         QVERIFY(!scene.stage.wantsFrame());
+    }
+
+    void aProgressThatIsNoNumberSignalsOnce()
+    {
+        StbTvChannelViewDelegate row;
+        QSignalSpy changed(&row, &StbTvChannelViewDelegate::progressChanged);
+        row.setProgress(std::numeric_limits<double>::quiet_NaN());
+        row.setProgress(std::numeric_limits<double>::quiet_NaN());
+        QCOMPARE(changed.count(), 1);
     }
 
     void theStyleIsStoredSignalledAndResettable()
