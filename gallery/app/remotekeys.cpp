@@ -36,6 +36,16 @@ constexpr std::array namedKeys {
     NamedKey { "Backspace"_L1, Qt::Key_Backspace },
     NamedKey { "ChannelUp"_L1, Qt::Key_ChannelUp },
     NamedKey { "ChannelDown"_L1, Qt::Key_ChannelDown },
+    NamedKey { "0"_L1, Qt::Key_0 },
+    NamedKey { "1"_L1, Qt::Key_1 },
+    NamedKey { "2"_L1, Qt::Key_2 },
+    NamedKey { "3"_L1, Qt::Key_3 },
+    NamedKey { "4"_L1, Qt::Key_4 },
+    NamedKey { "5"_L1, Qt::Key_5 },
+    NamedKey { "6"_L1, Qt::Key_6 },
+    NamedKey { "7"_L1, Qt::Key_7 },
+    NamedKey { "8"_L1, Qt::Key_8 },
+    NamedKey { "9"_L1, Qt::Key_9 },
 };
 
 } // namespace

@@ -44,6 +44,9 @@ public:
         shown.group = localized(channel[QLatin1String("group")], m_language);
         shown.quality = channel[QLatin1String("quality")].toString();
         shown.locked = channel[QLatin1String("locked")].toBool();
+        const QString logo = channel[QLatin1String("logo")].toString();
+        if (!logo.isEmpty())
+            shown.icon = QUrl(QStringLiteral("qrc:/resources/pictures/%1.png").arg(logo));
         m_guide->addChannel(shown);
         const std::vector<Start> starts = startsOf(channel[QLatin1String("day")].toArray());
         for (size_t i = 0; i + 1 < starts.size(); ++i) {

@@ -61,7 +61,7 @@ ListView {
         TvChannelViewDelegate {
             anchors.fill: parent
             style: row.ListView.isCurrentItem ? Look.focusedChannel : QmlDesignSystem.playerTvChannelItemStyle
-            imageSource: Pictures.framed(row.logo, Look.channelLogo.width, Look.channelLogo.height, Look.small)
+            imageSource: Pictures.framed(row.logo, Look.channelLogo.width, Look.channelLogo.height, Look.tiny)
             canvas: sheet.canvas(row.channel)
             cachedChannelRect: sheet.cell(row.channel)
             channelListChannelName: row.name

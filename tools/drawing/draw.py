@@ -4,12 +4,13 @@
 import functools
 import sys
 
+import logos
 import morescenes
 import scenes
 import stills
 from canvas import Canvas
 
-POSTER, WIDE, STILL, MARK = (400, 600), (640, 360), (480, 270), (120, 80)
+POSTER, WIDE, STILL, MARK, LOGO = (400, 600), (640, 360), (480, 270), (120, 80), (192, 168)
 
 POSTERS = {"ferry": scenes.ferry, "peaks": scenes.peaks, "tram": scenes.tram, "dunes": scenes.dunes,
            "aurora": scenes.aurora, "orbit": scenes.orbit, "kite": scenes.kite, "harbour": morescenes.harbour,
@@ -42,6 +43,8 @@ CATEGORIES = {
 }
 MARKS = {"mark_wave": stills.mark_wave, "mark_prism": stills.mark_prism, "mark_orbit": stills.mark_orbit,
          "mark_leaf": stills.mark_leaf}
+LOGOS = {"logo_news": logos.news, "logo_sport": logos.sport, "logo_cinema": logos.cinema, "logo_series": logos.series,
+         "logo_music": logos.music, "logo_nature": logos.nature}
 
 
 def pictures():
@@ -56,6 +59,8 @@ def pictures():
         every[f"still_{name}"] = (scene, STILL, 400 + seed)
     for name, scene in MARKS.items():
         every[name] = (scene, MARK, 1)
+    for name, scene in LOGOS.items():
+        every[name] = (scene, LOGO, 1)
     return every
 
 

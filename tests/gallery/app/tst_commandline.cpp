@@ -145,6 +145,11 @@ private Q_SLOTS:
         QCOMPARE(parseRemoteKeys(names.join(u' ')).keys.size(), names.size());
     }
 
+    void digitsAreKeys()
+    {
+        QCOMPARE(parseRemoteKeys(QStringLiteral("0 7 9")).keys, (QList { Qt::Key_0, Qt::Key_7, Qt::Key_9 }));
+    }
+
     void readingStopsAtAnUnknownKey()
     {
         const gallery::RemoteKeys keys = parseRemoteKeys(QStringLiteral("Up Nonsense Down"));

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void everyMinuteOfThreeDaysHasItsProgramme();
     void itHasEightChannelsWithNumbersAndNames();
     void itsChannelsAreInGroupsAndOneIsLocked();
+    void itsLogosAreThere();
     void everyProgrammeOfTheTemplateIsOn();
     void everyProgrammeHasItsTexts_data();
     void everyProgrammeHasItsTexts();
@@ -146,6 +147,18 @@ void TestOwnGuide::itsChannelsAreInGroupsAndOneIsLocked()
         QCOMPARE(locked, 1);
         QCOMPARE(withQuality, 6);
     }
+}
+
+void TestOwnGuide::itsLogosAreThere()
+{
+    const Guide guide = ownGuide(local("2026-05-13T20:05:00"), QStringLiteral("en"));
+    int logos = 0;
+    for (int channel = 0; channel < guide.channelCount(); ++channel) {
+        const QUrl logo = guide.channel(channel).icon;
+        logos += int(!logo.isEmpty());
+        QVERIFY(logo.isEmpty() || QFile::exists(u':' + logo.path()));
+    }
+    QCOMPARE(logos, 6);
 }
 
 void TestOwnGuide::everyProgrammeOfTheTemplateIsOn()
