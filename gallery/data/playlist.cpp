@@ -35,6 +35,12 @@ QString channelQuality(const QString &name, const QString &group)
     return found != groupWords.cend() ? qualityOfWord(*found) : QString();
 }
 
+QString withoutQuality(const QString &name)
+{
+    const bool told = !channelQuality(name, {}).isEmpty();
+    return told ? name.simplified().section(u' ', 0, -2) : name;
+}
+
 bool isChannelNumber(QStringView text)
 {
     int separators = 0;

@@ -41,6 +41,9 @@ using Playlist = QList<PlaylistChannel>;
 */
 QString channelQuality(const QString &name, const QString &group);
 
+/*! \a name without the last word when that tells the quality: where the quality is shown beside it. */
+QString withoutQuality(const QString &name);
+
 /*! Whether \a text is a channel's number, as "7", "7-1" or "7.1" are. */
 bool isChannelNumber(QStringView text);
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "screens/channelrows.h"
 
+#include "gallery/data/playlist.h"
+
 #include <algorithm>
 
 namespace gallery {
@@ -74,7 +76,7 @@ QVariant ChannelRows::data(const QModelIndex &index, int role) const
         return row;
     case Qt::DisplayRole:
     case NameRole:
-        return channel.name;
+        return channel.quality.isEmpty() ? channel.name : withoutQuality(channel.name);
     case NumberRole:
         return channel.number;
     case LogoRole:

@@ -16,7 +16,7 @@ class ChannelRows : public QAbstractListModel
 public:
     enum Role {
         ChannelRole = Qt::UserRole + 1, /*!< channel: int, the channel's index in the guide */
-        NameRole, /*!< name: QString, never empty; also Qt::DisplayRole */
+        NameRole, /*!< name: QString, without a quality that QualityRole tells; also Qt::DisplayRole */
         NumberRole, /*!< number: QString such as "7" or "7-1", may be empty */
         LogoRole, /*!< logo: QUrl, empty when there is none */
         QualityRole, /*!< quality: QString such as "HD", may be empty */

@@ -154,9 +154,7 @@ QPixmap LogoSheet::drawn(int first) const
 
 QString channelInitials(const QString &name)
 {
-    QStringList words = name.simplified().split(u' ');
-    if (words.size() > 1 && !channelQuality(name, {}).isEmpty())
-        words.removeLast();
+    const QStringList words = withoutQuality(name).simplified().split(u' ');
     QStringList readable;
     std::copy_if(words.cbegin(), words.cend(), std::back_inserter(readable), beginsReadably);
     if (readable.isEmpty())

@@ -15,16 +15,17 @@ struct Spec
     bool locked = false;
     QUrl logo = {};
     int minutes = 30; // of each show; 0: there are none
+    QString name = {}; // "Channel ID" if empty
 };
 
-/*! A guide of these channels, called "Channel ID", with shows called ID and their place in the day. */
+/*! A guide of these channels, with shows called ID and their place in the day. */
 inline gallery::Guide guide(const QList<Spec> &specs)
 {
     gallery::GuideBuilder builder;
     for (const Spec &spec : specs) {
         gallery::Channel channel;
         channel.id = spec.id;
-        channel.name = "Channel " + spec.id;
+        channel.name = spec.name.isEmpty() ? "Channel " + spec.id : spec.name;
         channel.number = spec.number;
         channel.group = spec.group;
         channel.quality = spec.quality;

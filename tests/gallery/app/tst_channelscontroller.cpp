@@ -94,6 +94,14 @@ private Q_SLOTS:
         QCOMPARE(row(3, ChannelRows::PlayingRole), false);
     }
 
+    void aNameLeavesOutTheQualityThatTheRowShows()
+    {
+        setUp({ { "a", {}, {}, "HD", false, {}, 30, "News HD" },
+                { "b", {}, {}, {}, false, {}, 30, "Sport HD" } });
+        QCOMPARE(row(0, ChannelRows::NameRole), "News");
+        QCOMPARE(row(1, ChannelRows::NameRole), "Sport HD");
+    }
+
     void everyRoleHasItsName()
     {
         setUp();

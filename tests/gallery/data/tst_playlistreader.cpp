@@ -44,6 +44,8 @@ private Q_SLOTS:
     void messagesNameFileAndLine();
     void theLastWordOfANameTellsTheQuality_data();
     void theLastWordOfANameTellsTheQuality();
+    void aNameWithoutItsQualityKeepsTheRest_data();
+    void aNameWithoutItsQualityKeepsTheRest();
 };
 
 namespace {
@@ -504,6 +506,30 @@ void TestPlaylistReader::theLastWordOfANameTellsTheQuality()
     QFETCH(QString, name);
     QFETCH(QString, group);
     QTEST(channelQuality(name, group), "quality");
+}
+
+void TestPlaylistReader::aNameWithoutItsQualityKeepsTheRest_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("rest");
+    QTest::newRow("quality") << "Late Films HD"
+                             << "Late Films";
+    QTest::newRow("in brackets") << "Films [4K]"
+                                 << "Films";
+    QTest::newRow("none") << "Late  Films"
+                          << "Late  Films";
+    QTest::newRow("in the middle") << "The HD Show"
+                                   << "The HD Show";
+    QTest::newRow("nothing else") << "HD"
+                                  << "HD";
+    QTest::newRow("empty") << ""
+                           << "";
+}
+
+void TestPlaylistReader::aNameWithoutItsQualityKeepsTheRest()
+{
+    QFETCH(QString, name);
+    QTEST(withoutQuality(name), "rest");
 }
 
 STB_TEST_MAIN(TestPlaylistReader)
