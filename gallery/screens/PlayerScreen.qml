@@ -24,7 +24,9 @@ FocusScope {
         source: screen.player.picture
     }
     Label {
-        anchors.centerIn: parent
+        // Above what the overlay shows.
+        y: Math.round(0.3 * parent.height)
+        anchors.horizontalCenter: parent.horizontalCenter
         width: parent.width - 2 * Look.safeX
         visible: screen.player.locked || screen.player.title.length === 0
         text: screen.player.locked ? qsTr("This channel is locked")
@@ -42,10 +44,10 @@ FocusScope {
 
         Rectangle {
             width: parent.width
-            height: Math.round(0.25 * parent.height)
+            height: Math.round(0.33 * parent.height)
             gradient: Gradient {
                 GradientStop {
-                    position: 0
+                    position: 0.5
                     color: Look.badge
                 }
                 GradientStop {
@@ -57,14 +59,14 @@ FocusScope {
         Rectangle {
             anchors.bottom: parent.bottom
             width: parent.width
-            height: parent.height - status.y + Look.huge
+            height: parent.height - status.y + 2 * Look.huge
             gradient: Gradient {
                 GradientStop {
                     position: 0
                     color: Look.clear
                 }
                 GradientStop {
-                    position: 0.3
+                    position: 0.2
                     color: Look.badge
                 }
                 GradientStop {
