@@ -53,6 +53,8 @@ FocusScope {
             Repeater {
                 model: screen.series.seasons
 
+                // With Qt 6.4 a component cannot say that it belongs where it stands; the linter asks for that.
+                // qmllint disable unqualified
                 CheckableButton {
                     required property int index
                     required property string modelData
@@ -62,6 +64,7 @@ FocusScope {
                     focused: screen.series.inSeasons && checked
                     checked: screen.series.seasonRow === index
                 }
+                // qmllint enable unqualified
             }
         }
     }
