@@ -81,8 +81,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("file");
         for (const char *name :
-             { "BusyIndicator", "CheckBox", "CircleProgressBar", "LineEdit", "MainMenuButton",
-               "MainMenuEffect", "PrimaryButton", "RadioButton", "StandardButton", "TabButton" })
+             { "BusyIndicator", "CheckBox", "CircleProgressBar", "Keyboard", "LineEdit", "MainMenuButton",
+               "MainMenuEffect", "MediaBlock", "MediaGridView", "MediaListView", "PrimaryButton",
+               "RadioButton", "ScrollBar", "StandardButton", "TabButton" })
             QTest::newRow(name) << QStringLiteral("qml/%1.qml").arg(QLatin1String(name));
         QTest::newRow("PlayerButton") << "qml/Experimental/PlayerButton.qml";
     }

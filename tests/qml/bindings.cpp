@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "bindings.h"
 
+#include <design_system/qmldesignsystem.h>
+
 #include <QtCore/qhash.h>
 #include <QtCore/qnamespace.h>
 
@@ -123,6 +125,69 @@ Bindings tabButton()
     };
 }
 
+// A font by its role, which depends on the resolution.
+auto fontOf(design_system::FontHd::Role role, design_system::FontSd::Role sdRole)
+{
+    return [role, sdRole](const Sources &sources) {
+        const auto *design = qobject_cast<design_system::QmlDesignSystem *>(sources.design);
+        return QVariant(design->unscaledFont(role, sdRole));
+    };
+}
+
+Bindings keyboard()
+{
+    using namespace design_system;
+    const QByteArray name("Keyboard");
+    const auto icon = [](const char *file) {
+        return literal(QStringLiteral("qrc:/resources/icons/keyboard/%1.png").arg(QLatin1String(file)));
+    };
+    return {
+        { name, "keyRoundingRadius", roundedBy("keyRoundingRadius") },
+        { name, "keyBackgroundColor", fromDesign("colors.bogota") },
+        { name, "keyTextColor", fromDesign("colors.sochi") },
+        { name, "symbolKeysFont", fontOf(FontHd::Subhead, FontSd::H4) },
+        { name, "controlKeysFont", fontOf(FontHd::Caption1, FontSd::H5) },
+        { name, "domainKeysFont", fontOf(FontHd::Caption2, FontSd::H6) },
+        { name, "backspaceIconPath", icon("delete") },
+        { name, "leftIconPath", icon("left") },
+        { name, "rightIconPath", icon("right") },
+        { name, "capslockEnabledIconPath", icon("capslock_enabled") },
+        { name, "capslockDisabledIconPath", icon("capslock_disabled") },
+        { name, "rowSpacing", fromStyle("keySpacing") },
+        { name, "columnSpacing", fromStyle("keySpacing") },
+        { name, "keyHeight", fromStyle("keyHeight") },
+        { name, "keyWidth", fromStyle("keyWidth") },
+    };
+}
+
+Bindings views()
+{
+    const QByteArray grid("MediaGridView");
+    const QByteArray list("MediaListView");
+    return {
+        { grid, "objectName", literal(QStringLiteral("contentView")) },
+        { grid, "horizontalSpacing", fromDesign("layouts.viewHorizontalSpacing") },
+        { grid, "verticalSpacing", fromDesign("layouts.viewVerticalSpacing") },
+        { grid, "highlightMoveDuration", fromDesign("animation.duration") }, // whatever the switches say
+        { grid, "leftMargin", fromDesign("layouts.viewLeftMargin") },
+        { grid, "rightMargin", fromDesign("layouts.viewRightMargin") },
+        { list, "mediaBlockInfo", literal(QVariant::fromValue<QObject *>(nullptr)) },
+        { list, "objectName", literal(QStringLiteral("contentView")) },
+        { list, "orientation", literal(int(Qt::Horizontal)) },
+        { list, "spacing", fromDesign("layouts.viewHorizontalSpacing") },
+        { list, "highlightMoveDuration",
+          [](const Sources &sources) {
+              return sources.layoutScrolling ? designValue(sources.design, "animation.duration")
+                                             : QVariant(0);
+          } },
+        { list, "leftMargin", fromDesign("layouts.viewLeftMargin") },
+        { list, "rightMargin", fromDesign("layouts.viewRightMargin") },
+        { "MediaBlock", "implicitWidth", fromDesign("layouts.screenWidth") },
+        { "ScrollBar", "backgroundColor", fromDesign("colors.bamako") },
+        { "ScrollBar", "sliderColor", fromDesign("colors.sochi50") },
+    };
+}
+
 Bindings smallOnes()
 {
     return {
@@ -143,8 +208,8 @@ Bindings smallOnes()
 std::vector<Binding> allBindings()
 {
     Bindings all;
-    for (const Bindings &some :
-         { busyIndicator(), checkBoxes(), lineEdit(), mainMenuButton(), tabButton(), smallOnes() })
+    for (const Bindings &some : { busyIndicator(), checkBoxes(), keyboard(), lineEdit(), mainMenuButton(),
+                                  tabButton(), views(), smallOnes() })
         all.insert(all.end(), some.begin(), some.end());
     return all;
 }

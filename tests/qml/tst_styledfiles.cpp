@@ -79,11 +79,16 @@ private Q_SLOTS:
         row("BusyIndicator", { generic, design }, "STBUIQCG.BusyIndicator", "_busyindicator");
         row("CheckBox", all, "STBUIQCG.CheckBox", "_checkBox");
         row("CircleProgressBar", { generic, design }, "STBUIQCG.CircleProgressBar", "_circleProgress");
+        row("Keyboard", all, "STBUIQCG.Keyboard", "_keyboard");
         row("LineEdit", all, "STBUIQCG.LineEdit", "_lineEdit");
         row("MainMenuButton", { quick, generic, design }, "STBUIQCG.MainMenuButton", "_button");
         row("MainMenuEffect", { quick, basic, generic, design }, "STBUIQCG.HorizontalFadeEffect", "");
+        row("MediaBlock", { generic, design }, "STBUIQCG.MediaBlock", "_mediaBlock");
+        row("MediaGridView", { generic, design }, "STBUIQCG.ScrolledGridView", "_mediaGridView");
+        row("MediaListView", { quick, basic, generic, design }, "STBUIQCG.ScrolledListView", "_mediaListView");
         row("PrimaryButton", { basic, design }, "STBUIQCB.Button", "_button");
         row("RadioButton", { basic, design }, "STBUIQCB.CheckBox", "_radioButton");
+        row("ScrollBar", { generic, design }, "STBUIQCG.ScrollBar", "_control");
         row("StandardButton", { basic, design }, "STBUIQCB.Button", "_button");
         row("TabButton", all, "STBUIQCG.TabButton", "_button");
         row("Experimental/PlayerButton", { basic, design }, "STBUIQCB.ButtonWithCheckIndicator", "");

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+import Stbui.UI.Qml.Controls.Generic as STBUIQCG
+import Stbui.UI.Qml.Design as STBUIQD
+
+STBUIQCG.ScrolledGridView {
+    id: _mediaGridView
+
+    objectName: "contentView"
+    horizontalSpacing: STBUIQD.QmlDesignSystem.layouts.viewHorizontalSpacing
+    verticalSpacing: STBUIQD.QmlDesignSystem.layouts.viewVerticalSpacing
+    highlightMoveDuration: STBUIQD.QmlDesignSystem.animation.duration
+    leftMargin: STBUIQD.QmlDesignSystem.layouts.viewLeftMargin
+    rightMargin: STBUIQD.QmlDesignSystem.layouts.viewRightMargin
+}
