@@ -24,6 +24,23 @@ namespace {
     QT_TRANSLATE_NOOP("stbui::EpgListModel", "ON"),
     //: Status: this programme plays now
     QT_TRANSLATE_NOOP("stbui::EpgListModel", "PLAYING"),
+    // What the on-screen keyboard and the views say.
+    QT_TRANSLATE_NOOP("Keyboard", "Keyboard"),
+    QT_TRANSLATE_NOOP("ScrollBar", "Scroll bar"),
+    QT_TRANSLATE_NOOP("ScrolledGridView", "Grid"),
+    QT_TRANSLATE_NOOP("ScrolledListView", "List"),
+    //: On a key of the on-screen keyboard
+    QT_TRANSLATE_NOOP("stbgeneric::KeyboardPad", "Space"),
+    //: A key of the on-screen keyboard
+    QT_TRANSLATE_NOOP("stbgeneric::KeyboardPad", "Backspace"),
+    QT_TRANSLATE_NOOP("stbgeneric::KeyboardPad", "Cursor left"),
+    QT_TRANSLATE_NOOP("stbgeneric::KeyboardPad", "Cursor right"),
+    //: On a key of the on-screen keyboard
+    QT_TRANSLATE_NOOP("stbgeneric::KeyboardPad", "Shift"),
+    QT_TRANSLATE_NOOP("stbgeneric::KeyboardPad", "Caps lock"),
+    QT_TRANSLATE_NOOP("stbgeneric::KeyboardPad", "Letters"),
+    QT_TRANSLATE_NOOP("stbgeneric::KeyboardPad", "Symbols"),
+    QT_TRANSLATE_NOOP("stbgeneric::KeyboardPad", "Language: %1"),
 };
 
 } // namespace

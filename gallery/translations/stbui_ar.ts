@@ -189,6 +189,13 @@
     </message>
 </context>
 <context>
+    <name>Keyboard</name>
+    <message>
+        <source>Keyboard</source>
+        <translation>لوحة المفاتيح</translation>
+    </message>
+</context>
+<context>
     <name>LoadingView</name>
     <message>
         <source>Reading the guide…</source>
@@ -355,6 +362,27 @@
     </message>
 </context>
 <context>
+    <name>ScrollBar</name>
+    <message>
+        <source>Scroll bar</source>
+        <translation>شريط التمرير</translation>
+    </message>
+</context>
+<context>
+    <name>ScrolledGridView</name>
+    <message>
+        <source>Grid</source>
+        <translation>شبكة</translation>
+    </message>
+</context>
+<context>
+    <name>ScrolledListView</name>
+    <message>
+        <source>List</source>
+        <translation>قائمة</translation>
+    </message>
+</context>
+<context>
     <name>SeriesScreen</name>
     <message>
         <source>There are no episodes yet</source>
@@ -396,6 +424,48 @@
         <source>This episode comes out on %1</source>
         <extracomment>%1 is a date</extracomment>
         <translation>تصدر هذه الحلقة في %1</translation>
+    </message>
+</context>
+<context>
+    <name>stbgeneric::KeyboardPad</name>
+    <message>
+        <source>Space</source>
+        <extracomment>On a key of the on-screen keyboard</extracomment>
+        <translation>مسافة</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <extracomment>A key of the on-screen keyboard</extracomment>
+        <translation>مسح</translation>
+    </message>
+    <message>
+        <source>Cursor left</source>
+        <translation>المؤشر إلى اليسار</translation>
+    </message>
+    <message>
+        <source>Cursor right</source>
+        <translation>المؤشر إلى اليمين</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <extracomment>On a key of the on-screen keyboard</extracomment>
+        <translation>تبديل</translation>
+    </message>
+    <message>
+        <source>Caps lock</source>
+        <translation>تثبيت الحروف</translation>
+    </message>
+    <message>
+        <source>Letters</source>
+        <translation>حروف</translation>
+    </message>
+    <message>
+        <source>Symbols</source>
+        <translation>رموز</translation>
+    </message>
+    <message>
+        <source>Language: %1</source>
+        <translation>اللغة: %1</translation>
     </message>
 </context>
 <context>

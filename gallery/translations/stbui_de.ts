@@ -189,6 +189,13 @@
     </message>
 </context>
 <context>
+    <name>Keyboard</name>
+    <message>
+        <source>Keyboard</source>
+        <translation>Tastatur</translation>
+    </message>
+</context>
+<context>
     <name>LoadingView</name>
     <message>
         <source>Reading the guide…</source>
@@ -355,6 +362,27 @@
     </message>
 </context>
 <context>
+    <name>ScrollBar</name>
+    <message>
+        <source>Scroll bar</source>
+        <translation>Bildlaufleiste</translation>
+    </message>
+</context>
+<context>
+    <name>ScrolledGridView</name>
+    <message>
+        <source>Grid</source>
+        <translation>Raster</translation>
+    </message>
+</context>
+<context>
+    <name>ScrolledListView</name>
+    <message>
+        <source>List</source>
+        <translation>Liste</translation>
+    </message>
+</context>
+<context>
     <name>SeriesScreen</name>
     <message>
         <source>There are no episodes yet</source>
@@ -396,6 +424,48 @@
         <source>This episode comes out on %1</source>
         <extracomment>%1 is a date</extracomment>
         <translation>Diese Folge erscheint am %1</translation>
+    </message>
+</context>
+<context>
+    <name>stbgeneric::KeyboardPad</name>
+    <message>
+        <source>Space</source>
+        <extracomment>On a key of the on-screen keyboard</extracomment>
+        <translation>Leertaste</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <extracomment>A key of the on-screen keyboard</extracomment>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Cursor left</source>
+        <translation>Cursor nach links</translation>
+    </message>
+    <message>
+        <source>Cursor right</source>
+        <translation>Cursor nach rechts</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <extracomment>On a key of the on-screen keyboard</extracomment>
+        <translation>Umschalten</translation>
+    </message>
+    <message>
+        <source>Caps lock</source>
+        <translation>Feststelltaste</translation>
+    </message>
+    <message>
+        <source>Letters</source>
+        <translation>Buchstaben</translation>
+    </message>
+    <message>
+        <source>Symbols</source>
+        <translation>Symbole</translation>
+    </message>
+    <message>
+        <source>Language: %1</source>
+        <translation>Sprache: %1</translation>
     </message>
 </context>
 <context>

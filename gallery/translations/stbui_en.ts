@@ -189,6 +189,13 @@
     </message>
 </context>
 <context>
+    <name>Keyboard</name>
+    <message>
+        <source>Keyboard</source>
+        <translation>Keyboard</translation>
+    </message>
+</context>
+<context>
     <name>LoadingView</name>
     <message>
         <source>Reading the guide…</source>
@@ -355,6 +362,27 @@
     </message>
 </context>
 <context>
+    <name>ScrollBar</name>
+    <message>
+        <source>Scroll bar</source>
+        <translation>Scroll bar</translation>
+    </message>
+</context>
+<context>
+    <name>ScrolledGridView</name>
+    <message>
+        <source>Grid</source>
+        <translation>Grid</translation>
+    </message>
+</context>
+<context>
+    <name>ScrolledListView</name>
+    <message>
+        <source>List</source>
+        <translation>List</translation>
+    </message>
+</context>
+<context>
     <name>SeriesScreen</name>
     <message>
         <source>There are no episodes yet</source>
@@ -396,6 +424,48 @@
         <source>This episode comes out on %1</source>
         <extracomment>%1 is a date</extracomment>
         <translation>This episode comes out on %1</translation>
+    </message>
+</context>
+<context>
+    <name>stbgeneric::KeyboardPad</name>
+    <message>
+        <source>Space</source>
+        <extracomment>On a key of the on-screen keyboard</extracomment>
+        <translation>Space</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <extracomment>A key of the on-screen keyboard</extracomment>
+        <translation>Backspace</translation>
+    </message>
+    <message>
+        <source>Cursor left</source>
+        <translation>Cursor left</translation>
+    </message>
+    <message>
+        <source>Cursor right</source>
+        <translation>Cursor right</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <extracomment>On a key of the on-screen keyboard</extracomment>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Caps lock</source>
+        <translation>Caps lock</translation>
+    </message>
+    <message>
+        <source>Letters</source>
+        <translation>Letters</translation>
+    </message>
+    <message>
+        <source>Symbols</source>
+        <translation>Symbols</translation>
+    </message>
+    <message>
+        <source>Language: %1</source>
+        <translation>Language: %1</translation>
     </message>
 </context>
 <context>

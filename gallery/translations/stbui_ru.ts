@@ -189,6 +189,13 @@
     </message>
 </context>
 <context>
+    <name>Keyboard</name>
+    <message>
+        <source>Keyboard</source>
+        <translation>Клавиатура</translation>
+    </message>
+</context>
+<context>
     <name>LoadingView</name>
     <message>
         <source>Reading the guide…</source>
@@ -355,6 +362,27 @@
     </message>
 </context>
 <context>
+    <name>ScrollBar</name>
+    <message>
+        <source>Scroll bar</source>
+        <translation>Полоса прокрутки</translation>
+    </message>
+</context>
+<context>
+    <name>ScrolledGridView</name>
+    <message>
+        <source>Grid</source>
+        <translation>Сетка</translation>
+    </message>
+</context>
+<context>
+    <name>ScrolledListView</name>
+    <message>
+        <source>List</source>
+        <translation>Список</translation>
+    </message>
+</context>
+<context>
     <name>SeriesScreen</name>
     <message>
         <source>There are no episodes yet</source>
@@ -396,6 +424,48 @@
         <source>This episode comes out on %1</source>
         <extracomment>%1 is a date</extracomment>
         <translation>Эта серия выйдет %1</translation>
+    </message>
+</context>
+<context>
+    <name>stbgeneric::KeyboardPad</name>
+    <message>
+        <source>Space</source>
+        <extracomment>On a key of the on-screen keyboard</extracomment>
+        <translation>Пробел</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <extracomment>A key of the on-screen keyboard</extracomment>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Cursor left</source>
+        <translation>Курсор влево</translation>
+    </message>
+    <message>
+        <source>Cursor right</source>
+        <translation>Курсор вправо</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <extracomment>On a key of the on-screen keyboard</extracomment>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Caps lock</source>
+        <translation>Caps Lock</translation>
+    </message>
+    <message>
+        <source>Letters</source>
+        <translation>Буквы</translation>
+    </message>
+    <message>
+        <source>Symbols</source>
+        <translation>Символы</translation>
+    </message>
+    <message>
+        <source>Language: %1</source>
+        <translation>Язык: %1</translation>
     </message>
 </context>
 <context>

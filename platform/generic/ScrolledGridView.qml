@@ -6,7 +6,7 @@ import Stbui.UI.Qml.Controls.Generic
 // A GridView for a remote control, scrolled up and down: each press of an arrow key, and each repetition of a key
 // that is held, goes on by one item; the current item stays in view and within the margins. Delegates are of the
 // size itemWidth x itemHeight; spacing comes between them and takes no room at the end of a row.
-// highlightMoveDuration is how long the view takes to follow (milliseconds; 0 follows at once).
+// highlightMoveDuration is how long the view takes to follow (milliseconds; 0 follows with the next frame).
 //
 // Delegates see the attached properties of a GridView. They are used again for other items (reuseItems); switch
 // that off for a delegate that keeps what it was given first. No items are made ahead of need: those cost the
@@ -54,6 +54,7 @@ FocusScope {
 
         // The grid knows no margins at its sides, where a mirrored one would be out of place by a column. The
         // spacing after a row's last item hangs over.
+        LayoutMirroring.enabled: control.LayoutMirroring.enabled
         x: control.leftMargin
         width: control.width - control.leftMargin - control.rightMargin + control.horizontalSpacing
         height: control.height

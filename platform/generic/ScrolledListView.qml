@@ -5,7 +5,7 @@ import Stbui.UI.Qml.Controls.Generic
 
 // A ListView for a remote control: each press of an arrow key, and each repetition of a key that is held, goes on by
 // one item; the current item stays in view and within the margins. highlightMoveDuration is how long the view takes
-// to follow (milliseconds; 0 follows at once).
+// to follow (milliseconds; 0 follows with the next frame).
 //
 // Delegates are used again for other items (reuseItems). Switch that off for a delegate that keeps what it was given
 // first. No items are made ahead of need: those cost the software renderer in every frame.

@@ -45,6 +45,11 @@ FocusMemory::FocusMemory(QQuickItem *parent)
     setFlag(ItemIsFocusScope);
 }
 
+FocusMemory::~FocusMemory()
+{
+    followFocusIn(nullptr); // the focus still moves while Qt Quick takes the content apart
+}
+
 void FocusMemory::setArea(QQuickItem *area)
 {
     if (area == m_area)
@@ -62,15 +67,19 @@ void FocusMemory::focusInEvent(QFocusEvent *event)
 void FocusMemory::itemChange(ItemChange change, const ItemChangeData &data)
 {
     QQuickItem::itemChange(change, data);
-    if (change == ItemSceneChange) {
-        watch(nullptr);
-        if (m_window)
-            disconnect(m_window, nullptr, this, nullptr);
-        m_window = data.window;
-        if (m_window)
-            connect(m_window, &QQuickWindow::activeFocusItemChanged, this,
-                    [this] { watch(hasActiveFocus() ? m_window->activeFocusItem() : nullptr); });
-    }
+    if (change == ItemSceneChange)
+        followFocusIn(data.window);
+}
+
+void FocusMemory::followFocusIn(QQuickWindow *window)
+{
+    watch(nullptr);
+    if (m_window)
+        disconnect(m_window, nullptr, this, nullptr);
+    m_window = window;
+    if (m_window)
+        connect(m_window, &QQuickWindow::activeFocusItemChanged, this,
+                [this] { watch(hasActiveFocus() ? m_window->activeFocusItem() : nullptr); });
 }
 
 void FocusMemory::watch(QQuickItem *item)

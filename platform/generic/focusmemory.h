@@ -22,6 +22,8 @@ class FocusMemory : public QQuickItem
     QML_ELEMENT
 public:
     explicit FocusMemory(QQuickItem *parent = nullptr);
+    ~FocusMemory() override;
+    Q_DISABLE_COPY_MOVE(FocusMemory)
 
     QQuickItem *area() const { return m_area; }
     void setArea(QQuickItem *area);
@@ -34,6 +36,7 @@ protected:
     void itemChange(ItemChange change, const ItemChangeData &data) override;
 
 private:
+    void followFocusIn(QQuickWindow *window);
     void watch(QQuickItem *item);
     void leaveHidden();
     void giveAwayFocus();
