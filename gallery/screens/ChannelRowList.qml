@@ -53,11 +53,12 @@ ListView {
             y: Look.channelLogo.y
             width: Look.channelLogo.width
             height: Look.channelLogo.height
-            visible: row.logo.toString().length > 0
+            visible: String(row.logo).length > 0
             color: Look.raised
         }
-        // With Qt 6.4 a component cannot say that it belongs where it stands; the linter asks for that.
-        // qmllint disable unqualified
+        // With Qt 6.4 a component cannot say that it belongs where it stands; the linter asks for that. It does not
+        // know pixmaps either.
+        // qmllint disable unqualified type
         TvChannelViewDelegate {
             anchors.fill: parent
             style: row.ListView.isCurrentItem ? Look.focusedChannel : QmlDesignSystem.playerTvChannelItemStyle
@@ -72,7 +73,7 @@ ListView {
             channelListProgramProgress: row.progress
             channelListChannelLive: row.playing
         }
-        // qmllint enable unqualified
+        // qmllint enable unqualified type
     }
 
     LogoSheet {
