@@ -9,6 +9,7 @@
 #include "screens/shellcontroller.h"
 
 #include <QtCore/qdir.h>
+#include <QtCore/qstandardpaths.h>
 #include <QtCore/qtextstream.h>
 #include <QtCore/qtimer.h>
 #include <QtGui/qguiapplication.h>
@@ -63,6 +64,12 @@ QStringList moduleFolders()
     return folders;
 }
 
+QString remindersFile()
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    return folder.isEmpty() ? QString() : folder + "/stbui/reminders.json"_L1;
+}
+
 } // namespace
 
 void prepareEnvironment(const Options &options)
@@ -84,7 +91,7 @@ void prepareEnvironment(const Options &options)
 Application::Application(const Options &options, QObject *parent)
     : QObject(parent)
     , m_options(options)
-    , m_shell(std::make_unique<ShellController>())
+    , m_shell(std::make_unique<ShellController>(remindersFile()))
     , m_catalogueLoader(std::make_unique<CatalogueLoader>())
 {
     if (m_options.now.isValid())

@@ -60,11 +60,15 @@ void ProgrammeModel::setDate(QDate date)
 
 void ProgrammeModel::select(int channel, QDate date)
 {
+    if (channel != m_channel || date != m_date)
+        select(m_guide, channel, date);
+}
+
+void ProgrammeModel::select(const Guide &guide, int channel, QDate date)
+{
     const bool otherChannel = channel != m_channel;
     const bool otherDate = date != m_date;
-    if (!otherChannel && !otherDate)
-        return;
-    show(m_guide, channel, date);
+    show(guide, channel, date);
     if (otherChannel)
         Q_EMIT channelChanged();
     if (otherDate)

@@ -60,6 +60,8 @@ public:
     void setDate(QDate date);
     /*! Sets channel and day with one reset. */
     Q_INVOKABLE void select(int channel, QDate date);
+    /*! Sets guide, channel and day with one reset. */
+    void select(const Guide &guide, int channel, QDate date);
 
     QDateTime now() const { return m_now; }
     void setNow(const QDateTime &now);

@@ -4,13 +4,13 @@ import Gallery
 
 // The channels; the chosen one is marked and kept in sight. Keys never act here.
 ListView {
+    id: list
+
     interactive: false
     clip: true
     // Rows made ahead of need would still be on their way when the model is reset, which Qt warns of.
     cacheBuffer: 0
     highlightFollowsCurrentItem: false
-    onCurrentItemChanged: positionViewAtIndex(currentIndex, ListView.Center)
-    onHeightChanged: positionViewAtIndex(currentIndex, ListView.Center)
     delegate: Item {
         id: row
 
@@ -19,6 +19,7 @@ ListView {
         required property string number
         required property string nowTitle
 
+        objectName: "channel"
         width: ListView.view.width
         height: Math.round(68 * Look.unit)
         Accessible.role: Accessible.ListItem
@@ -69,5 +70,9 @@ ListView {
                 color: Look.quietText
             }
         }
+    }
+
+    MiddleKeeper {
+        list: list
     }
 }

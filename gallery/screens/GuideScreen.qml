@@ -2,7 +2,7 @@
 import QtQuick
 import Gallery
 
-// The programme guide: channels, the day's programmes of the chosen channel, and the chosen programme.
+// The programme guide: days, channels, and the day's programmes of the chosen channel.
 FocusScope {
     id: screen
 
@@ -31,13 +31,32 @@ FocusScope {
         shortDayText: screen.guide.shortDayText
         clockText: screen.guide.clockText
     }
+    Item {
+        id: daysPlace
+
+        anchors.top: header.bottom
+        anchors.topMargin: Look.small
+        anchors.left: header.left
+        anchors.right: header.right
+        height: days.height
+
+        DayList {
+            id: days
+
+            x: Math.floor((parent.width - width) / 2)
+            focus: screen.guide.inDays
+            model: screen.guide.days
+            currentIndex: screen.guide.dayRow
+        }
+    }
     ChannelList {
         id: channels
 
         objectName: "channels"
-        anchors.top: header.bottom
-        anchors.topMargin: Look.medium
-        anchors.bottom: summary.bottom
+        anchors.top: daysPlace.bottom
+        anchors.topMargin: Look.small
+        anchors.bottom: footer.top
+        anchors.bottomMargin: Look.small
         anchors.left: header.left
         anchors.right: programmes.left
         anchors.rightMargin: Look.large
@@ -49,21 +68,24 @@ FocusScope {
 
         objectName: "programmes"
         anchors.top: channels.top
-        anchors.bottom: summary.top
-        anchors.bottomMargin: Look.medium
+        anchors.bottom: channels.bottom
         anchors.right: header.right
         width: implicitWidth
-        focus: !screen.guide.detailsOpen
+        focus: !screen.guide.detailsOpen && !screen.guide.inDays
         model: screen.guide.programmes
         currentIndex: screen.guide.programmeRow
     }
-    FocusPlate {
+    Item {
         anchors.top: programmes.top
         anchors.left: programmes.left
         anchors.right: programmes.right
         height: nothing.height + 2 * Look.medium
         visible: screen.guide.programmeRow < 0 && !screen.guide.loading
 
+        FocusPlate {
+            anchors.fill: parent
+            visible: programmes.focus
+        }
         Label {
             id: nothing
 
@@ -73,7 +95,7 @@ FocusScope {
             anchors.margins: Look.medium
             text: screen.guide.channelRow < 0 ? qsTr("There are no channels in this guide")
                                               : qsTr("No programmes on this day")
-            color: Look.textOnFocus
+            color: programmes.focus ? Look.textOnFocus : Look.quietText
         }
     }
     EdgeFades {
@@ -83,49 +105,6 @@ FocusScope {
     EdgeFades {
         anchors.fill: programmes
         list: programmes
-    }
-    Rectangle {
-        id: summary
-
-        anchors.bottom: footer.top
-        anchors.bottomMargin: Look.small
-        anchors.left: programmes.left
-        anchors.right: programmes.right
-        height: times.height + description.height + 2 * Look.small
-        visible: screen.guide.programmeRow >= 0
-        color: Look.surface
-        radius: Look.radius
-
-        Label {
-            id: times
-
-            anchors.top: parent.top
-            anchors.left: parent.left
-            anchors.right: parent.right
-            anchors.topMargin: Look.small
-            anchors.leftMargin: Look.medium
-            anchors.rightMargin: Look.medium
-            text: screen.guide.timeRange
-            font: Look.caption
-        }
-        Label {
-            id: description
-
-            anchors.top: times.bottom
-            anchors.left: times.left
-            anchors.right: times.right
-            height: Math.ceil(2.1 * metrics.lineSpacing)
-            text: screen.guide.description.length > 0 ? screen.guide.description : qsTr("No description")
-            font: Look.caption
-            color: Look.quietText
-            wrapMode: Text.Wrap
-            maximumLineCount: 2
-        }
-        FontMetrics {
-            id: metrics
-
-            font: Look.caption
-        }
     }
     Item {
         id: footer
@@ -155,15 +134,23 @@ FocusScope {
 
             KeyHint {
                 key: "◀ ▶"
-                text: qsTr("Channel")
+                text: screen.guide.inDays ? qsTr("Day") : qsTr("Channel")
             }
             KeyHint {
-                key: "▲ ▼"
-                text: qsTr("Programme")
+                key: screen.guide.inDays ? "▼" : "▲ ▼"
+                text: screen.guide.inDays ? qsTr("Programmes") : qsTr("Programme")
             }
+            // What OK does with a programme that is to come stands on its card.
             KeyHint {
-                key: qsTr("OK", "a key of the remote control")
+                visible: screen.guide.programmeRow >= 0 && !screen.guide.inDays
+                key: screen.guide.future ? qsTr("INFO", "a key of the remote control")
+                                         : qsTr("OK", "a key of the remote control")
                 text: qsTr("Details")
+            }
+            KeyHint {
+                visible: Look.wide && !screen.guide.inDays
+                key: qsTr("MENU", "a key of the remote control")
+                text: qsTr("Day")
             }
             KeyHint {
                 key: qsTr("BACK", "a key of the remote control")

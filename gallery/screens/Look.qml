@@ -29,6 +29,8 @@ QtObject {
     // Room for a right holder's mark.
     readonly property int logoWidth: Math.round(72 * unit)
     readonly property int logoHeight: Math.round(32 * unit)
+    // Of a day in the guide's row of days: the month's name in full must fit.
+    readonly property int dayWidth: wide ? Math.round(92 * unit) : 72
     // How long a list takes to its new place, in milliseconds.
     readonly property int scrollTime: QmlDesignSystem.animation.duration
 
@@ -59,9 +61,14 @@ QtObject {
     readonly property rect rowTextArea: QmlDesignSystem.playerEpgDelegateStyle.style.previewRect
     // qmllint enable type
 
-    // Of the guide's row that has the focus.
+    // Of the guide's row that has the focus and shows its card.
     readonly property PlayerEpgDelegateQmlStyle focusedRow: FocusedRowStyle {
         base: QmlDesignSystem.playerEpgDelegateStyle
+        // Rows above and below stay in sight.
+        cardHeight: Math.round(216 * Look.unit)
+    }
+    readonly property PlayerEpgDateQmlStyle focusedDate: FocusedDateStyle {
+        base: QmlDesignSystem.playerEpgDateStyle
         color: Look.textOnFocus
     }
     // Of the row of channels that has the focus.

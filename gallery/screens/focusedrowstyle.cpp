@@ -17,13 +17,13 @@ void FocusedRowStyle::setBase(design_system::PlayerEpgDelegateQmlStyle *base)
     Q_EMIT baseChanged();
 }
 
-void FocusedRowStyle::setColor(const QColor &color)
+void FocusedRowStyle::setCardHeight(int height)
 {
-    if (color == m_color)
+    if (height == m_cardHeight)
         return;
-    m_color = color;
+    m_cardHeight = height;
     derive();
-    Q_EMIT colorChanged();
+    Q_EMIT cardHeightChanged();
 }
 
 void FocusedRowStyle::derive()
@@ -31,10 +31,10 @@ void FocusedRowStyle::derive()
     design_system::PlayerEpgDelegateStyle derived;
     if (m_base != nullptr)
         derived = m_base->style();
-    derived.liveStartTimeColor = m_color;
-    derived.unavailableTextColor = m_color;
-    derived.playableTextColor = m_color;
-    derived.subtitleTextStyle.color = m_color;
+    if (m_cardHeight > 0 && m_cardHeight < derived.previewRect.height())
+        derived.previewRect.setHeight(m_cardHeight);
+    // A programme that is to come cannot be watched yet, but keys act on it.
+    derived.unavailableTextColor = derived.playableTextColor;
     setStyle(derived);
 }
 

@@ -9,34 +9,35 @@
 namespace gallery {
 
 /*!
-    The style of the guide row on the focus plate: the theme's row style with all its texts in one colour. A row
-    takes colours over only when it is given another style object, so the focused one has an object of its own.
+    The style of the guide row that keys act on: the theme's, with a card that leaves room for other rows, and
+    never dimmed. A row takes a style over only when it is given another style object, so this row has an object of its
+    own.
 */
 class FocusedRowStyle : public design_system::PlayerEpgDelegateQmlStyle
 {
     Q_OBJECT
     /*! The style that fonts and measures are taken from. Null (the default): the default values. */
     Q_PROPERTY(design_system::PlayerEpgDelegateQmlStyle *base READ base WRITE setBase NOTIFY baseChanged)
-    /*! The colour of start time, title and subtitle. */
-    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
+    /*! The most pixels that the card is high; 0 (the default): as high as the base's. */
+    Q_PROPERTY(int cardHeight READ cardHeight WRITE setCardHeight NOTIFY cardHeightChanged)
     QML_ELEMENT
 public:
     explicit FocusedRowStyle(QObject *parent = nullptr);
 
     design_system::PlayerEpgDelegateQmlStyle *base() const { return m_base; }
     void setBase(design_system::PlayerEpgDelegateQmlStyle *base);
-    QColor color() const { return m_color; }
-    void setColor(const QColor &color);
+    int cardHeight() const { return m_cardHeight; }
+    void setCardHeight(int height);
 
 Q_SIGNALS:
     void baseChanged();
-    void colorChanged();
+    void cardHeightChanged();
 
 private:
     void derive();
 
     QPointer<design_system::PlayerEpgDelegateQmlStyle> m_base;
-    QColor m_color;
+    int m_cardHeight = 0;
 };
 
 } // namespace gallery

@@ -26,11 +26,28 @@ GuideController::GuideController(Clock *clock, QObject *parent)
     });
 }
 
+void GuideController::setReminders(Reminders *reminders)
+{
+    if (m_reminders != nullptr)
+        m_reminders->disconnect(this);
+    m_reminders = reminders;
+    m_programmes.setReminders(reminders);
+    if (m_reminders != nullptr)
+        connect(m_reminders, &Reminders::errorChanged, this, &GuideController::messageChanged);
+    Q_EMIT messageChanged();
+}
+
 void GuideController::setGuide(const Guide &guide)
 {
+    const Kept before = kept();
+    const bool again = m_channelRow >= 0;
     m_channels.setGuide(guide);
-    m_programmes.setGuide(guide);
-    start();
+    if (again) {
+        restore(guide, before);
+    } else {
+        m_programmes.setGuide(guide);
+        start();
+    }
     Q_EMIT guideShown();
 }
 
@@ -39,10 +56,57 @@ void GuideController::start()
     setDetailsOpen(false);
     m_channels.setNow(m_clock->now());
     m_programmes.setNow(m_clock->now());
+    m_days.setToday(m_clock->now().date());
     m_channelRow = firstChannelOnAir(shownGuide());
     m_programmes.select(m_channelRow, m_clock->now().date());
     chooseNow();
-    Q_EMIT nowChanged();
+}
+
+GuideController::Kept GuideController::kept() const
+{
+    if (m_channelRow < 0)
+        return {};
+    return { m_channels.guide().channel(m_channelRow).id, title(),
+             chosen(ProgrammeModel::StartRole).toDateTime() };
+}
+
+// Shows \a guide with what was chosen before, or with what is nearest to it.
+void GuideController::restore(const Guide &guide, const Kept &kept)
+{
+    const int channel = guide.channelIndex(kept.channelId);
+    m_channelRow = channel >= 0 ? channel : std::min(m_channelRow, guide.channelCount() - 1);
+    m_programmes.select(guide, m_channelRow, m_programmes.date());
+    if (m_channelRow < 0)
+        setInDays(false);
+    chooseAgain(channel >= 0 ? rowOf(kept) : -1);
+}
+
+// Chooses \a row, or what is on at the time that was chosen when it is -1.
+void GuideController::chooseAgain(int row)
+{
+    m_programmeRow = row >= 0 ? row : m_programmes.nearestRow(m_anchor);
+    if (row < 0)
+        setDetailsOpen(false);
+    tellSelection();
+}
+
+// The row of the programme that \a kept tells of, also when it was moved by an hour at most; -1 without.
+int GuideController::rowOf(const Kept &kept) const
+{
+    constexpr qint64 longestMove = 3600;
+    int found = -1;
+    qint64 smallest = longestMove + 1;
+    for (int row = 0; row < m_programmes.count() && kept.start.isValid(); ++row) {
+        const QModelIndex programme = m_programmes.index(row);
+        const QDateTime start = m_programmes.data(programme, ProgrammeModel::StartRole).toDateTime();
+        const qint64 move = std::abs(start.secsTo(kept.start));
+        if (move < smallest
+            && m_programmes.data(programme, ProgrammeModel::TitleRole).toString() == kept.title) {
+            smallest = move;
+            found = row;
+        }
+    }
+    return found;
 }
 
 int GuideController::firstChannelOnAir(const Guide &guide) const
@@ -88,14 +152,14 @@ QString GuideController::dayText() const
 {
     //: Weekday, day and month without the year, in the form that QLocale::toString() takes
     const QString format = QCoreApplication::translate("GuideScreen", "dddd, d MMMM");
-    return QLocale().toString(m_clock->now().date(), format);
+    return QLocale().toString(date(), format);
 }
 
 QString GuideController::shortDayText() const
 {
     //: As "dddd, d MMMM", but short
     const QString format = QCoreApplication::translate("GuideScreen", "ddd, d MMM");
-    return QLocale().toString(m_clock->now().date(), format);
+    return QLocale().toString(date(), format);
 }
 
 QString GuideController::clockText() const
@@ -105,10 +169,14 @@ QString GuideController::clockText() const
 
 QString GuideController::message() const
 {
-    if (m_loader.error().isEmpty())
-        return {};
     //: %1 says what is wrong, and where in the file
-    return QCoreApplication::translate("GuideScreen", "The guide is not complete: %1").arg(m_loader.error());
+    const QString incomplete = QCoreApplication::translate("GuideScreen", "The guide is not complete: %1");
+    if (!m_loader.error().isEmpty())
+        return incomplete.arg(m_loader.error());
+    if (m_reminders == nullptr || m_reminders->error().isEmpty())
+        return {};
+    //: %1 names the file and says what is wrong
+    return QCoreApplication::translate("GuideScreen", "Reminders: %1").arg(m_reminders->error());
 }
 
 void GuideController::setRowsPerPage(int rows)
@@ -128,55 +196,31 @@ void GuideController::setMirrored(bool mirrored)
     Q_EMIT selectionChanged();
 }
 
-bool GuideController::press(int key)
-{
-    if (isSelectKey(key)) {
-        setDetailsOpen(!m_detailsOpen);
-        return true;
-    }
-    if (isBackKey(key)) {
-        goBack();
-        return true;
-    }
-    switch (key) {
-    case Qt::Key_Up:
-        chooseProgramme(m_programmeRow - 1);
-        return true;
-    case Qt::Key_Down:
-        chooseProgramme(m_programmeRow + 1);
-        return true;
-    case Qt::Key_PageUp:
-        chooseProgramme(m_programmeRow - m_rowsPerPage);
-        return true;
-    case Qt::Key_PageDown:
-        chooseProgramme(m_programmeRow + m_rowsPerPage);
-        return true;
-    case Qt::Key_Home:
-        chooseProgramme(0);
-        return true;
-    case Qt::Key_End:
-        chooseProgramme(m_programmes.count() - 1);
-        return true;
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-        chooseChannel(m_channelRow + readingStep(key, m_mirrored));
-        return true;
-    default:
-        return false;
-    }
-}
-
 void GuideController::chooseChannel(int row)
 {
     if (row < 0 || row >= m_channels.count() || row == m_channelRow)
         return;
     m_channelRow = row;
     m_programmes.setChannel(row);
-    m_programmeRow = m_programmes.nearestRow(m_anchor);
-    if (m_programmeRow < 0)
-        setDetailsOpen(false);
-    Q_EMIT selectionChanged();
-    Q_EMIT nowChanged();
+    chooseAtAnchor();
+}
+
+void GuideController::chooseDay(int row)
+{
+    if (row < 0 || row >= m_days.count() || row == dayRow() || m_channelRow < 0)
+        return;
+    chooseDate(m_days.dateAt(row));
+}
+
+// Shows \a date, and what is on there at the time of day that was chosen.
+void GuideController::chooseDate(QDate date)
+{
+    const QDateTime sameTime(date, m_timeOfDay);
+    m_programmes.setDate(date);
+    // The time may be one that the clocks leave out on this day.
+    m_anchor = sameTime.isValid() ? sameTime
+                                  : date.startOfDay().addSecs(m_timeOfDay.msecsSinceStartOfDay() / 1000);
+    chooseAtAnchor();
 }
 
 void GuideController::chooseProgramme(int row)
@@ -189,35 +233,53 @@ void GuideController::chooseProgramme(int row)
     m_programmeRow = row;
     // A programme that began yesterday would lead to a time that this day's list does not have.
     const QDateTime dayStart = m_programmes.date().startOfDay();
-    m_anchor = isLive() ? m_clock->now() : std::max(chosen(ProgrammeModel::StartRole).toDateTime(), dayStart);
-    Q_EMIT selectionChanged();
-    Q_EMIT nowChanged();
+    moveAnchor(isLive() ? m_clock->now() : std::max(chosen(ProgrammeModel::StartRole).toDateTime(), dayStart));
+    tellSelection();
 }
 
 void GuideController::chooseNow()
 {
-    m_anchor = m_clock->now();
+    setInDays(false);
+    m_programmes.setDate(m_clock->now().date());
+    moveAnchor(m_clock->now());
+    chooseAtAnchor();
+}
+
+void GuideController::chooseAtAnchor()
+{
     m_programmeRow = m_programmes.nearestRow(m_anchor);
+    if (m_programmeRow < 0)
+        setDetailsOpen(false);
+    tellSelection();
+}
+
+void GuideController::moveAnchor(const QDateTime &time)
+{
+    m_anchor = time;
+    m_timeOfDay = time.time();
+}
+
+void GuideController::tellSelection()
+{
+    m_days.show(shownGuide(), m_channelRow);
     Q_EMIT selectionChanged();
     Q_EMIT nowChanged();
 }
 
-void GuideController::goBack()
+void GuideController::setInDays(bool inDays)
 {
-    if (m_detailsOpen) {
+    inDays = inDays && m_channelRow >= 0;
+    if (inDays == m_inDays)
+        return;
+    if (inDays)
         setDetailsOpen(false);
-        return;
-    }
-    if (m_programmeRow != m_programmes.nearestRow(m_clock->now())) {
-        chooseNow();
-        return;
-    }
-    Q_EMIT leaveRequested();
+    m_inDays = inDays;
+    Q_EMIT inDaysChanged();
 }
 
 void GuideController::setDetailsOpen(bool open)
 {
-    open = open && m_programmeRow >= 0;
+    open = open && m_programmeRow >= 0 && !m_inDays;
     if (open == m_detailsOpen)
         return;
     m_detailsOpen = open;
@@ -229,11 +291,28 @@ void GuideController::tick()
     const QDateTime now = m_clock->now();
     m_channels.setNow(now);
     m_programmes.setNow(now);
-    if (m_programmes.date() != now.date()) {
-        m_programmes.setDate(now.date());
-        chooseNow();
-    }
+    if (m_days.today() != now.date())
+        moveToday(now.date());
+    // A time that was only made up must not cost the viewer's reminders.
+    if (m_reminders != nullptr && !m_clock->isFixed())
+        m_reminders->dropExpired(now);
     Q_EMIT nowChanged();
+}
+
+// The next day has begun: what was shown of today becomes what is on now, unless it runs over midnight.
+void GuideController::moveToday(QDate today)
+{
+    const bool wasToday = date() == m_days.today();
+    m_days.setToday(today);
+    if (!wasToday) {
+        // The row of days has lost its first one.
+        chooseDate(m_days.dateAt(dayRow()));
+        return;
+    }
+    const Kept before = kept();
+    m_programmes.setDate(today);
+    moveAnchor(m_clock->now());
+    chooseAgain(rowOf(before));
 }
 
 } // namespace gallery

@@ -4,10 +4,13 @@
 
 #include "gallery/data/guide.h"
 #include "gallery/data/guideloader.h"
-#include "gallery/data/programmemodel.h"
+#include "gallery/data/reminders.h"
 #include "screens/channelnowmodel.h"
+#include "screens/daymodel.h"
+#include "screens/guideprogrammemodel.h"
 
 #include <QtCore/qobject.h>
+#include <QtCore/qpointer.h>
 #include <QtQml/qqmlregistration.h>
 
 namespace gallery {
@@ -15,18 +18,24 @@ namespace gallery {
 class Clock;
 
 /*!
-    What the guide screen shows and how remote keys change it: one channel of the guide is chosen, and of this
-    channel's programmes of the day one is chosen too. QML shows the properties and hands every key to press().
+    What the guide screen shows and how remote keys change it: one channel of the guide and one day are chosen, and of
+    the channel's programmes of the day one is chosen too. Keys act on the programmes or on the row of days. QML shows
+    the properties and hands every key to press().
 */
 class GuideController : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(QAbstractItemModel *channels READ channels CONSTANT)
     Q_PROPERTY(QAbstractItemModel *programmes READ programmes CONSTANT)
+    Q_PROPERTY(QAbstractItemModel *days READ days CONSTANT)
     /*! Row of the chosen channel in \c channels; -1 without channels. */
     Q_PROPERTY(int channelRow READ channelRow NOTIFY selectionChanged)
     /*! Row of the chosen programme in \c programmes; -1 when the channel has none on this day. */
     Q_PROPERTY(int programmeRow READ programmeRow NOTIFY selectionChanged)
+    /*! Row of the chosen day in \c days; -1 before anything is shown. */
+    Q_PROPERTY(int dayRow READ dayRow NOTIFY selectionChanged)
+    /*! Whether keys act on the row of days; never without channels. */
+    Q_PROPERTY(bool inDays READ isInDays NOTIFY inDaysChanged)
     Q_PROPERTY(QString channelName READ channelName NOTIFY selectionChanged)
     Q_PROPERTY(QString channelNumber READ channelNumber NOTIFY selectionChanged)
     /*! The channels beside the chosen one, as Left and Right reach them; empty at the ends. */
@@ -41,10 +50,14 @@ class GuideController : public QObject
     /*! "20:00 – 21:30". */
     Q_PROPERTY(QString timeRange READ timeRange NOTIFY selectionChanged)
     Q_PROPERTY(bool live READ isLive NOTIFY nowChanged)
+    /*! Whether the chosen programme is to come: OK sets or deletes a reminder then. */
+    Q_PROPERTY(bool future READ isFuture NOTIFY nowChanged)
     /*! How much of the chosen programme is over, 0 to 1. */
     Q_PROPERTY(double progress READ progress NOTIFY nowChanged)
 
-    /*! Day and time of the clock as the language writes them; the short day is for narrow screens. */
+    /*!
+        The chosen day and the clock's time as the language writes them; the short day is for narrow screens.
+    */
     Q_PROPERTY(QString dayText READ dayText NOTIFY nowChanged)
     Q_PROPERTY(QString shortDayText READ shortDayText NOTIFY nowChanged)
     Q_PROPERTY(QString clockText READ clockText NOTIFY nowChanged)
@@ -53,7 +66,7 @@ class GuideController : public QObject
     Q_PROPERTY(bool loading READ isLoading NOTIFY loadingChanged)
     /*! How much of the guide's file is read, 0 to 1. */
     Q_PROPERTY(double loadProgress READ loadProgress NOTIFY loadProgressChanged)
-    /*! What was wrong with the guide's file; empty when nothing was. */
+    /*! What was wrong with the file of the guide or of the reminders; empty when nothing was. */
     Q_PROPERTY(QString message READ message NOTIFY messageChanged)
 
     /*! How many rows a page key moves by, at least 1; the view knows how many it shows. */
@@ -68,9 +81,15 @@ public:
 
     /*! Reads \a files and shows the guide that they make; see GuideLoader. */
     void load(const GuideFiles &files) { m_loader.load(files); }
-    /*! Shows \a guide from its start. */
+    /*!
+        Shows \a guide: the first time as start() does. Later the chosen channel stays chosen, found by its id (without
+        it the channel that has its place now), and so do the day and the programme, found by start and title, else by
+        its title within the hour before or after, else by its time.
+    */
     void setGuide(const Guide &guide);
     Guide shownGuide() const { return m_channels.guide(); }
+    /*! Where reminders are kept; null (the default): none can be set. Not owned. */
+    void setReminders(Reminders *reminders);
     /*! As at the start: the first channel that has something on now, and the programme that is on. */
     void start();
     /*! What the last reading gave. */
@@ -79,8 +98,12 @@ public:
 
     QAbstractItemModel *channels() { return &m_channels; }
     QAbstractItemModel *programmes() { return &m_programmes; }
+    QAbstractItemModel *days() { return &m_days; }
     int channelRow() const { return m_channelRow; }
     int programmeRow() const { return m_programmeRow; }
+    int dayRow() const { return m_days.rowOf(m_programmes.date()); }
+    QDate date() const { return m_programmes.date(); }
+    bool isInDays() const { return m_inDays; }
 
     QString channelName() const { return channelNameAt(m_channelRow); }
     QString channelNumber() const;
@@ -93,6 +116,7 @@ public:
     QString category() const { return chosen(ProgrammeModel::CategoryRole).toString(); }
     QString timeRange() const;
     bool isLive() const { return chosen(ProgrammeModel::IsLiveRole).toBool(); }
+    bool isFuture() const { return chosen(ProgrammeModel::IsFutureRole).toBool(); }
     double progress() const { return chosen(ProgrammeModel::ProgressRole).toDouble(); }
 
     QString dayText() const;
@@ -112,16 +136,23 @@ public:
     /*!
         Handles a remote key; false when it means nothing here.
 
-        Up, Down, Page Up, Page Down, Home and End choose another programme of the channel. Left and Right choose
-        the channel beside it and there the programme that is on at the same time, however many channels are
-        passed. Return shows or hides the programme's details. Back hides them, else returns to what is on now,
-        else asks to leave.
+        Up, Down, Page Up, Page Down, Home and End choose another programme of the channel; Up from the first one
+        leads to the row of days, where Left, Right, Home and End choose the day, and Down and Return lead into its
+        programmes. On the programmes Left and Right choose the channel beside it. Anywhere Menu leads to the
+        days and back, Channel Up and Channel Down choose the next and the previous channel, and the keys that skip forward and back the next and the previous
+        day. A change of channel or day chooses what is on at the same time there, however many are passed.
+
+        Return sets or deletes the reminder of a programme that is to come and shows the details of any other; there it
+        plays the channel of one that is on, and hides the details. Info shows and hides the details of any programme.
+        Play plays the channel of one that is on. Back hides the details, else returns to what is on now, else asks to
+        leave.
     */
     Q_INVOKABLE bool press(int key);
 
 Q_SIGNALS:
     void selectionChanged();
     void nowChanged();
+    void inDaysChanged();
     void detailsOpenChanged();
     void loadingChanged();
     void loadProgressChanged();
@@ -131,28 +162,59 @@ Q_SIGNALS:
     void guideShown();
     /*! Back was pressed where there is nothing to go back to. */
     void leaveRequested();
+    /*! The viewer wants to watch the channel in \a channelRow. */
+    void playRequested(int channelRow);
 
 private:
+    // A programme, so that it is found again in another guide.
+    struct Kept
+    {
+        QString channelId;
+        QString title;
+        QDateTime start;
+    };
+
     QVariant chosen(ProgrammeModel::Role role) const;
     QString channelNameAt(int row) const;
     QString channelNameBeside(int key) const;
     int firstChannelOnAir(const Guide &guide) const;
+    bool pressAnywhere(int key);
+    bool pressInDays(int key);
+    bool pressInProgrammes(int key);
     void chooseChannel(int row);
+    void chooseDay(int row);
+    void chooseDate(QDate date);
     void chooseProgramme(int row);
     void chooseNow();
+    void chooseAtAnchor();
+    void moveAnchor(const QDateTime &time);
+    void select();
+    void play();
+    void goUp();
     void goBack();
+    void setInDays(bool inDays);
     void setDetailsOpen(bool open);
+    Kept kept() const;
+    void restore(const Guide &guide, const Kept &kept);
+    int rowOf(const Kept &kept) const;
+    void chooseAgain(int row);
+    void tellSelection();
     void tick();
+    void moveToday(QDate today);
 
     Clock *m_clock;
     GuideLoader m_loader;
     ChannelNowModel m_channels;
-    ProgrammeModel m_programmes;
+    GuideProgrammeModel m_programmes;
+    DayModel m_days;
+    QPointer<Reminders> m_reminders;
     QDateTime m_anchor; // the time that a change of channel keeps
+    QTime m_timeOfDay; // of the anchor; a day on which the clocks change does not change it
     int m_channelRow = -1;
     int m_programmeRow = -1;
     int m_rowsPerPage = 1;
     bool m_mirrored = false;
+    bool m_inDays = false;
     bool m_detailsOpen = false;
 };
 

@@ -16,8 +16,9 @@ constexpr QLatin1StringView playerScreen = "player"_L1;
 
 } // namespace
 
-ShellController::ShellController(QObject *parent)
+ShellController::ShellController(const QString &remindersFile, QObject *parent)
     : QObject(parent)
+    , m_reminders(remindersFile)
     , m_home(&m_clock, &m_favourites)
     , m_detail(&m_favourites, &m_likes)
     , m_guide(&m_clock)
@@ -57,6 +58,8 @@ void ShellController::connectScreens()
     connect(&m_player, &PlayerController::guideRequested, this, openGuide);
     connect(&m_player, &PlayerController::leaveRequested, this, &ShellController::goBack);
     connect(&m_series, &SeriesController::backRequested, this, &ShellController::goBack);
+    connect(&m_guide, &GuideController::playRequested, this, &ShellController::openPlayer);
+    m_guide.setReminders(&m_reminders);
 }
 
 QStringList ShellController::screenNames()

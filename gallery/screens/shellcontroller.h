@@ -3,6 +3,7 @@
 #define GALLERY_SCREENS_SHELLCONTROLLER_H
 
 #include "gallery/data/clock.h"
+#include "gallery/data/reminders.h"
 #include "screens/channelscontroller.h"
 #include "screens/detailcontroller.h"
 #include "screens/guidecontroller.h"
@@ -37,7 +38,8 @@ class ShellController : public QObject
     QML_ELEMENT
     QML_UNCREATABLE("The application makes it.")
 public:
-    explicit ShellController(QObject *parent = nullptr);
+    /*! \a remindersFile keeps the reminders; empty: they are kept for this run only. */
+    explicit ShellController(const QString &remindersFile = {}, QObject *parent = nullptr);
 
     /*! The names of the screens: "home", "detail", "series", "guide", "channels", "player". */
     static QStringList screenNames();
@@ -86,6 +88,7 @@ private:
     Clock m_clock;
     Marks m_favourites;
     Marks m_likes;
+    Reminders m_reminders;
     HomeController m_home;
     DetailController m_detail;
     GuideController m_guide;

@@ -137,13 +137,32 @@
         <translation>الدليل غير مكتمل: %1</translation>
     </message>
     <message>
-        <source>No description</source>
-        <translation>لا يوجد وصف</translation>
-    </message>
-    <message>
         <source>ddd, d MMM</source>
         <extracomment>As &quot;dddd, d MMMM&quot;, but short</extracomment>
         <translation>ddd، d MMM</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>اليوم</translation>
+    </message>
+    <message>
+        <source>MENU</source>
+        <comment>a key of the remote control</comment>
+        <translation>القائمة</translation>
+    </message>
+    <message>
+        <source>Programmes</source>
+        <translation>البرامج</translation>
+    </message>
+    <message>
+        <source>INFO</source>
+        <comment>a key of the remote control</comment>
+        <translation>INFO</translation>
+    </message>
+    <message>
+        <source>Reminders: %1</source>
+        <extracomment>%1 names the file and says what is wrong</extracomment>
+        <translation>التذكيرات: %1</translation>
     </message>
 </context>
 <context>

@@ -137,13 +137,32 @@
         <translation>Das Programm ist unvollständig: %1</translation>
     </message>
     <message>
-        <source>No description</source>
-        <translation>Keine Beschreibung</translation>
-    </message>
-    <message>
         <source>ddd, d MMM</source>
         <extracomment>As &quot;dddd, d MMMM&quot;, but short</extracomment>
         <translation>ddd, d. MMM</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>MENU</source>
+        <comment>a key of the remote control</comment>
+        <translation>MENÜ</translation>
+    </message>
+    <message>
+        <source>Programmes</source>
+        <translation>Sendungen</translation>
+    </message>
+    <message>
+        <source>INFO</source>
+        <comment>a key of the remote control</comment>
+        <translation>INFO</translation>
+    </message>
+    <message>
+        <source>Reminders: %1</source>
+        <extracomment>%1 names the file and says what is wrong</extracomment>
+        <translation>Erinnerungen: %1</translation>
     </message>
 </context>
 <context>

@@ -137,13 +137,32 @@
         <translation>The guide is not complete: %1</translation>
     </message>
     <message>
-        <source>No description</source>
-        <translation>No description</translation>
-    </message>
-    <message>
         <source>ddd, d MMM</source>
         <extracomment>As &quot;dddd, d MMMM&quot;, but short</extracomment>
         <translation>ddd, d MMM</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Day</translation>
+    </message>
+    <message>
+        <source>MENU</source>
+        <comment>a key of the remote control</comment>
+        <translation>MENU</translation>
+    </message>
+    <message>
+        <source>Programmes</source>
+        <translation>Programmes</translation>
+    </message>
+    <message>
+        <source>INFO</source>
+        <comment>a key of the remote control</comment>
+        <translation>INFO</translation>
+    </message>
+    <message>
+        <source>Reminders: %1</source>
+        <extracomment>%1 names the file and says what is wrong</extracomment>
+        <translation>Reminders: %1</translation>
     </message>
 </context>
 <context>

@@ -10,6 +10,7 @@
 #include "screens/shellcontroller.h"
 
 #include <QtCore/qrandom.h>
+#include <QtGui/qevent.h>
 #include <QtQuick/qquickitem.h>
 #include <QtQuick/qquickview.h>
 
@@ -33,7 +34,14 @@ protected:
 
     gallery::ShellController *shell() const { return m_application->shell(); }
     QQuickView *view() const { return m_application->view(); }
-    void press(Qt::Key key) const { QTest::keyClick(view(), key); }
+    void press(Qt::Key key) const
+    {
+        // QTest::keyClick() does not know all keys of remote controls.
+        for (const QEvent::Type type : { QEvent::KeyPress, QEvent::KeyRelease }) {
+            QKeyEvent event(type, key, Qt::NoModifier);
+            QCoreApplication::sendEvent(view(), &event);
+        }
+    }
 
     /*! The visible items named \a name, from the back to the front. */
     QList<QQuickItem *> items(const QString &name) const

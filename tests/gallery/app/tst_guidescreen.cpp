@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "changingguide.h"
 #include "screentest.h"
 
 #include <QtCore/qtemporaryfile.h>
@@ -21,7 +22,8 @@ class tst_GuideScreen : public ScreenTest
     /*! Why the focus cannot be seen, or nothing when it can. */
     QString focusProblem() const
     {
-        return plateProblem(sceneRect(guide()->isDetailsOpen() ? view()->rootObject() : item("programmes")));
+        const QString list = guide()->isInDays() ? "days" : "programmes";
+        return plateProblem(sceneRect(guide()->isDetailsOpen() ? view()->rootObject() : item(list)));
     }
 
 private Q_SLOTS:
@@ -42,15 +44,21 @@ private Q_SLOTS:
                  qPrintable(QString::number(guide()->rowsPerPage())));
     }
 
+    /*! Where the row of the chosen programme is. */
+    QRectF chosenRow() const
+    {
+        return sceneRect(item("programmes")->property("currentItem").value<QQuickItem *>());
+    }
+
     void theProgrammeThatIsOnIsInTheMiddleHoweverTheGuideIsOpened()
     {
         start();
-        const QRectF atOnce = sceneRect(item("focusPlate"));
+        const QRectF atOnce = chosenRow();
         shell()->start("home");
         for (const Qt::Key key : { Qt::Key_Up, Qt::Key_Right, Qt::Key_Return })
             press(key);
         QCOMPARE(shell()->screen(), "guide");
-        QVERIFY(QTest::qWaitFor([this, &atOnce] { return sceneRect(item("focusPlate")) == atOnce; }));
+        QVERIFY(QTest::qWaitFor([this, &atOnce] { return chosenRow() == atOnce; }));
         const QRectF list = sceneRect(item("programmes"));
         QVERIFY(std::abs(atOnce.center().y() - list.center().y()) < 2);
     }
@@ -87,6 +95,151 @@ private Q_SLOTS:
         press(Qt::Key_Right);
         QVERIFY(texts().contains("No programmes on this day"));
         QCOMPARE(focusProblem(), QString());
+    }
+
+    void theChosenProgrammeAloneShowsItsCard()
+    {
+        start();
+        for (const Qt::Key key : { Qt::Key_Down, Qt::Key_Down, Qt::Key_Right, Qt::Key_Home, Qt::Key_End }) {
+            press(key);
+            QCOMPARE(items("card").size(), 1);
+            QCOMPARE(item("card")->property("itemTitle").toString(), guide()->title());
+            const QRectF row = chosenRow();
+            QVERIFY(row.contains(sceneRect(item("card"))));
+            QVERIFY(sceneRect(item("programmes")).adjusted(-1, -1, 1, 1).contains(row));
+        }
+    }
+
+    void theCardTellsWhatCanBeDoneWithTheProgramme()
+    {
+        start();
+        const auto card = [this](const char *property) { return item("card")->property(property); };
+        QCOMPARE(card("tvProgramPlayable").toBool(), true);
+        QCOMPARE(card("tvProgramIsLive").toBool(), true);
+        QCOMPARE(card("tvProgramProgress").toDouble(), 5.0 / 30);
+        QVERIFY(card("imageSource").toUrl().isValid());
+        press(Qt::Key_Up);
+        QCOMPARE(card("tvProgramPlayable").toBool(), true);
+        QCOMPARE(card("tvProgramIsPast").toBool(), true);
+        press(Qt::Key_Down);
+        press(Qt::Key_Down);
+        QCOMPARE(card("tvProgramPlayable").toBool(), false);
+        QCOMPARE(card("tvProgramIsFuture").toBool(), true);
+        QCOMPARE(card("tvProgramHasReminder").toBool(), false);
+        press(Qt::Key_Return);
+        QCOMPARE(card("tvProgramHasReminder").toBool(), true);
+        press(Qt::Key_Return);
+        QCOMPARE(card("tvProgramHasReminder").toBool(), false);
+    }
+
+    void aReminderIsMarkedInTheRow()
+    {
+        start();
+        press(Qt::Key_Down);
+        press(Qt::Key_Return);
+        QCOMPARE(items("reminderMark").size(), 0); // the card tells it
+        press(Qt::Key_Down);
+        QCOMPARE(items("reminderMark").size(), 1);
+        press(Qt::Key_Up);
+        press(Qt::Key_Return);
+        press(Qt::Key_Down);
+        QCOMPARE(items("reminderMark").size(), 0);
+    }
+
+    void theDaysAreShownAndTheChosenOneIsInTheMiddle_data()
+    {
+        QTest::addColumn<QString>("resolution");
+        QTest::addColumn<int>("width");
+        QTest::newRow("hd") << "hd" << 92;
+        QTest::newRow("fullhd") << "fullhd" << 138;
+        QTest::newRow("sd") << "sd" << 72;
+    }
+    void theDaysAreShownAndTheChosenOneIsInTheMiddle()
+    {
+        QFETCH(QString, resolution);
+        QFETCH(int, width);
+        gallery::Options options;
+        options.resolution = resolution;
+        start(options);
+        const QQuickItem *days = item("days");
+        const QRectF row = sceneRect(days);
+        const QRectF today = sceneRect(days->property("currentItem").value<QQuickItem *>());
+        QCOMPARE(days->property("count").toInt(), 15);
+        QVERIFY(std::abs(today.center().x() - row.center().x()) < 1);
+        QVERIFY2(today.width() >= width, qPrintable(QString::number(today.width())));
+        const QList<QQuickItem *> cells = items("day");
+        QVERIFY(cells.size() >= 7);
+        for (const QQuickItem *cell : cells) {
+            const QRectF place = sceneRect(cell);
+            const QRectF seen = place & row; // whole, or not at all
+            QVERIFY(seen.width() < 1 || seen.width() > place.width() - 1);
+        }
+    }
+
+    void theDaysTakeTheFocusAndGiveItBack()
+    {
+        start();
+        press(Qt::Key_Home);
+        press(Qt::Key_Up);
+        QVERIFY(guide()->isInDays());
+        QCOMPARE(focusProblem(), QString());
+        QCOMPARE(items("card").size(), 0);
+        press(Qt::Key_Right);
+        QVERIFY(texts().contains("No programmes on this day"));
+        QCOMPARE(item("days")->property("currentIndex").toInt(), 8);
+        QCOMPARE(focusProblem(), QString());
+        press(Qt::Key_Left);
+        press(Qt::Key_Down);
+        QVERIFY(!guide()->isInDays());
+        QCOMPARE(focusProblem(), QString());
+        QCOMPARE(items("card").size(), 1);
+    }
+
+    void aRefreshLeavesTheChosenRowWhereItWas()
+    {
+        start();
+        const QRectF before = chosenRow();
+        gallery::GuideBuilder builder;
+        guides::addChannel(builder, QStringLiteral("first"), guides::wholeDay(QStringLiteral("F"), 20));
+        QList<guides::Show> shows = guides::wholeDay(QStringLiteral("A"), 30);
+        shows.remove(3, 7);
+        guides::addChannel(builder, QStringLiteral("a"), shows);
+        guide()->setGuide(builder.take());
+        QCOMPARE(guide()->title(), "A40");
+        QCOMPARE(guide()->programmeRow(), 33);
+        QCOMPARE(chosenRow(), before);
+        QCOMPARE(focusProblem(), QString());
+    }
+
+    void theFocusIsSeenAfterAnyChangesOfTheGuide()
+    {
+        start();
+        guides::ChangingGuide data(20260306);
+        QList<int> keys = guides::allRemoteKeys();
+        keys.removeOne(Qt::Key_Back); // leads to the home screen in the end
+        keys.removeOne(Qt::Key_Play); // leads to the player
+        QRandomGenerator random(20260307);
+        for (int step = 0; step < 600; ++step) {
+            QString changed = "key";
+            if (random.bounded(3) == 0) {
+                changed = data.change();
+                guide()->setGuide(data.guide());
+            } else if (!guide()->isDetailsOpen() || random.bounded(2) == 0) {
+                const int key = keys.at(random.bounded(int(keys.size())));
+                if (guide()->isDetailsOpen() && key == Qt::Key_Return)
+                    continue; // as above
+                press(Qt::Key(key));
+            }
+            QCoreApplication::processEvents();
+            QString problem = focusProblem();
+            for (const char *list : { "days", "channels", "programmes" }) {
+                const int row = guide()->property(QByteArray(list).chopped(1) + "Row").toInt();
+                if (item(list)->property("currentIndex").toInt() != row)
+                    problem += QLatin1String(list);
+            }
+            QVERIFY2(problem.isEmpty(),
+                     qPrintable(QStringLiteral("step %1, %2: %3").arg(step).arg(changed, problem)));
+        }
     }
 
     void anEmptyGuideSaysSoAndKeepsTheFocus()

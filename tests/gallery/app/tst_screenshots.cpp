@@ -85,7 +85,7 @@ private Q_SLOTS:
 
     void returnAndBackLeadToThePictureThereWas()
     {
-        QCOMPARE(picture("there-and-back", { "--keys", "Down Return Back Up" }), picture("still", {}));
+        QCOMPARE(picture("there-and-back", { "--keys", "Up Return Back Down" }), picture("still", {}));
     }
 
     void backFromTheGuideLeadsHome()

@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+// What remote keys do in the guide.
+#include "screens/guidecontroller.h"
+
+#include "gallery/data/clock.h"
+#include "screens/remotekey.h"
+
+namespace gallery {
+
+bool GuideController::press(int key)
+{
+    if (isSelectKey(key))
+        select();
+    else if (isBackKey(key))
+        goBack();
+    else
+        return pressAnywhere(key) || (m_inDays ? pressInDays(key) : pressInProgrammes(key));
+    return true;
+}
+
+bool GuideController::pressAnywhere(int key)
+{
+    switch (key) {
+    case Qt::Key_ChannelUp:
+        chooseChannel(m_channelRow + 1);
+        return true;
+    case Qt::Key_ChannelDown:
+        chooseChannel(m_channelRow - 1);
+        return true;
+    case Qt::Key_MediaNext:
+        chooseDay(dayRow() + 1);
+        return true;
+    case Qt::Key_MediaPrevious:
+        chooseDay(dayRow() - 1);
+        return true;
+    case Qt::Key_Menu:
+        setInDays(!m_inDays);
+        return true;
+    case Qt::Key_Info:
+        setDetailsOpen(!m_detailsOpen);
+        return true;
+    case Qt::Key_Play:
+    case Qt::Key_MediaPlay:
+        play();
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool GuideController::pressInDays(int key)
+{
+    switch (key) {
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+        chooseDay(dayRow() + readingStep(key, m_mirrored));
+        return true;
+    case Qt::Key_Home:
+        chooseDay(0);
+        return true;
+    case Qt::Key_End:
+        chooseDay(m_days.count() - 1);
+        return true;
+    case Qt::Key_Down:
+    case Qt::Key_PageDown:
+        setInDays(false);
+        return true;
+    case Qt::Key_Up:
+    case Qt::Key_PageUp:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool GuideController::pressInProgrammes(int key)
+{
+    switch (key) {
+    case Qt::Key_Up:
+        goUp();
+        return true;
+    case Qt::Key_Down:
+        chooseProgramme(m_programmeRow + 1);
+        return true;
+    case Qt::Key_PageUp:
+        chooseProgramme(m_programmeRow - m_rowsPerPage);
+        return true;
+    case Qt::Key_PageDown:
+        chooseProgramme(m_programmeRow + m_rowsPerPage);
+        return true;
+    case Qt::Key_Home:
+        chooseProgramme(0);
+        return true;
+    case Qt::Key_End:
+        chooseProgramme(m_programmes.count() - 1);
+        return true;
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+        chooseChannel(m_channelRow + readingStep(key, m_mirrored));
+        return true;
+    default:
+        return false;
+    }
+}
+
+void GuideController::select()
+{
+    if (m_inDays) {
+        setInDays(false);
+    } else if (m_detailsOpen) {
+        setDetailsOpen(false);
+        play();
+    } else if (!isFuture() || !m_programmes.toggleReminder(m_programmeRow)) {
+        setDetailsOpen(true);
+    }
+}
+
+void GuideController::play()
+{
+    if (isLive())
+        Q_EMIT playRequested(m_channelRow);
+}
+
+void GuideController::goUp()
+{
+    if (m_programmeRow > 0)
+        chooseProgramme(m_programmeRow - 1);
+    else if (!m_detailsOpen)
+        setInDays(true);
+}
+
+void GuideController::goBack()
+{
+    const QDateTime now = m_clock->now();
+    if (m_detailsOpen)
+        setDetailsOpen(false);
+    else if (m_inDays || date() != now.date() || m_programmeRow != m_programmes.nearestRow(now))
+        chooseNow();
+    else
+        Q_EMIT leaveRequested();
+}
+
+} // namespace gallery
