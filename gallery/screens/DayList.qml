@@ -58,7 +58,9 @@ ListView {
             // There is nothing on that day.
             opacity: cell.hasProgrammes ? 1 : 0.4
             style: cell.focused ? Look.focusedDate : QmlDesignSystem.playerEpgDateStyle
+            // qmllint disable type
             date: cell.day
+            // qmllint enable type
             isActive: cell.chosen
         }
         Rectangle {

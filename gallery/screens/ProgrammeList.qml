@@ -27,6 +27,7 @@ ListView {
 
         readonly property bool chosen: ListView.isCurrentItem
         readonly property bool focused: chosen && ListView.view.focus
+        readonly property EpgViewDelegateFocused focusedForm: card.item as EpgViewDelegateFocused
         required property string title
         required property string subtitle
         required property string startTimeText
@@ -41,7 +42,7 @@ ListView {
         objectName: "programme"
         width: ListView.view.width
         // A row measures one pixel less than what it paints.
-        height: (card.item ? card.item.height : programme.height) + 1 + 2 * Look.small
+        height: (focusedForm ? focusedForm.height : programme.height) + 1 + 2 * Look.small
         Accessible.role: Accessible.ListItem
         Accessible.name: startTimeText + " " + title
 

@@ -27,6 +27,7 @@ ShellController::ShellController(const QString &remindersFile, QObject *parent)
     , m_series(&m_clock)
     , m_open({ homeScreen })
 {
+    m_guide.setReminders(&m_reminders);
     connectScreens();
 }
 
@@ -51,6 +52,7 @@ void ShellController::connectScreens()
         m_player.setGuide(m_guide.shownGuide());
     });
     connect(&m_guide, &GuideController::leaveRequested, this, &ShellController::goBack);
+    connect(&m_guide, &GuideController::playRequested, this, &ShellController::openPlayer);
     connect(&m_channels, &ChannelsController::playRequested, this, &ShellController::openPlayer);
     connect(&m_channels, &ChannelsController::leaveRequested, this, &ShellController::goBack);
     connect(&m_player, &PlayerController::channelChanged, this,
@@ -58,8 +60,6 @@ void ShellController::connectScreens()
     connect(&m_player, &PlayerController::guideRequested, this, openGuide);
     connect(&m_player, &PlayerController::leaveRequested, this, &ShellController::goBack);
     connect(&m_series, &SeriesController::backRequested, this, &ShellController::goBack);
-    connect(&m_guide, &GuideController::playRequested, this, &ShellController::openPlayer);
-    m_guide.setReminders(&m_reminders);
 }
 
 QStringList ShellController::screenNames()
