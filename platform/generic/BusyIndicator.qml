@@ -15,7 +15,7 @@ Item {
     property int throbberWidth: 48
     property int throbberHeight: 48
     property int throbberPenWidth: 4
-    property color throbberColor: "white"
+    property color throbberColor: headerColor // on a ring of the same colour, nearly clear
     property int spacing: 16 // between the arc and the texts
 
     property font headerFont
@@ -54,6 +54,7 @@ Item {
             interval: control.animationInterval
             penWidth: control.throbberPenWidth
             color: control.throbberColor
+            trackColor: Qt.alpha(control.throbberColor, 0.2)
         }
         Text {
             id: headerText

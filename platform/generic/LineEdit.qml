@@ -77,8 +77,9 @@ FocusScope {
         id: placeholder
 
         anchors.fill: input
-        leftPadding: control.cursorWidth // the cursor stands beside the text, not in it
-        rightPadding: control.cursorWidth
+        // The cursor stands before the text, not in it.
+        leftPadding: effectiveHorizontalAlignment === Text.AlignLeft ? control.cursorWidth : 0
+        rightPadding: effectiveHorizontalAlignment === Text.AlignRight ? control.cursorWidth : 0
         visible: !input.length && !input.preeditText
         text: control.placeholderText
         textFormat: Text.PlainText

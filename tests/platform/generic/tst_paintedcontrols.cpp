@@ -68,7 +68,8 @@ private Q_SLOTS:
     void aStepTurnsTheArcAndPaintsItsOwnRectangle()
     {
         GenericScene scene("BusyIndicator { x: 30; y: 40; throbberWidth: 60; throbberHeight: 60\n"
-                           "throbberPenWidth: 8; header: 'Wait'; animationInterval: 300 }");
+                           "throbberPenWidth: 8; header: 'Wait'; animationInterval: 300 }",
+                           QSize(400, 200), Qt::black);
         auto *arc = qobject_cast<Throbber *>(GenericScene::childOf(scene.item.get(), "stbgeneric::Throbber"));
         QVERIFY(arc);
         scene.stage.renderFrame();
@@ -85,6 +86,18 @@ private Q_SLOTS:
         scene.stage.renderFrame();
         QVERIFY2(top().red() > 240, "a turn has 1.2 s");
         QVERIFY(quarter != left());
+    }
+
+    void theArcHasTheHeadersColourOnAPalerRing()
+    {
+        GenericScene scene("BusyIndicator { headerColor: '#d01020' }");
+        auto *arc = qobject_cast<Throbber *>(GenericScene::childOf(scene.item.get(), "stbgeneric::Throbber"));
+        QVERIFY(arc);
+        QCOMPARE(arc->color(), QColor("#d01020"));
+        QCOMPARE(arc->trackColor().rgb(), QColor("#d01020").rgb());
+        QVERIFY(arc->trackColor().alpha() < 64);
+        scene.item->setProperty("throbberColor", QColor("#1020d0"));
+        QCOMPARE(arc->color(), QColor("#1020d0"));
     }
 
     void theTextsStandBelowTheArcWithTheirMargins()
