@@ -6,7 +6,7 @@ import Stbui.UI.Qml.Controls.Generic
 // A GridView for a remote control, scrolled up and down: each press of an arrow key, and each repetition of a key
 // that is held, goes on by one item; the current item stays in view and within the margins. Delegates are of the
 // size itemWidth x itemHeight; spacing comes between them and takes no room at the end of a row.
-// highlightMoveDuration is how long the view takes to follow (milliseconds; 0 follows with the next frame).
+// highlightMoveDuration is about how long the view takes to follow by a step (milliseconds; 0 follows at once).
 //
 // Delegates see the attached properties of a GridView. They are used again for other items (reuseItems); switch
 // that off for a delegate that keeps what it was given first. No items are made ahead of need: those cost the
@@ -73,12 +73,16 @@ FocusScope {
 
         T.ScrollBar.vertical: control.scrollBar
     }
+    FollowCurrentItem {
+        view: grid
+    }
     // Beside the last column, in the margin as far as that is wide enough.
     Item {
         id: barArea
 
         readonly property real barWidth: control.scrollBar ? control.scrollBar.implicitWidth : 0
-        readonly property real gap: control.horizontalSpacing / 2
+        readonly property bool hasBar: control.scrollBar !== null && control.scrollBar.parent === barArea
+        readonly property real gap: Math.round(control.horizontalSpacing / 2)
 
         x: grid.effectiveLayoutDirection === Qt.RightToLeft
            ? Math.max(0, control.leftMargin - gap - barWidth)
@@ -86,6 +90,7 @@ FocusScope {
         width: barWidth
         height: control.height
     }
+    // While it is still within the grid, that gives it a place.
     Binding {
         target: control.scrollBar
         property: "parent"
@@ -93,6 +98,13 @@ FocusScope {
     }
     Binding {
         target: control.scrollBar
+        when: barArea.hasBar
+        property: "x"
+        value: 0
+    }
+    Binding {
+        target: control.scrollBar
+        when: barArea.hasBar
         property: "height"
         value: barArea.height
     }

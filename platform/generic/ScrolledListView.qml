@@ -4,17 +4,17 @@ import QtQuick.Templates as T
 import Stbui.UI.Qml.Controls.Generic
 
 // A ListView for a remote control: each press of an arrow key, and each repetition of a key that is held, goes on by
-// one item; the current item stays in view and within the margins. highlightMoveDuration is how long the view takes
-// to follow (milliseconds; 0 follows with the next frame).
+// one item; the current item stays in view and within the margins. highlightMoveDuration is about how long the view
+// takes to follow by a step (milliseconds; 0 follows at once).
 //
 // Delegates are used again for other items (reuseItems). Switch that off for a delegate that keeps what it was given
 // first. No items are made ahead of need: those cost the software renderer in every frame.
 ListView {
-    id: view
+    id: control
 
     // Vertical lists show it when not all items fit. Another one, such as one in a theme's colours, can be assigned.
     property T.ScrollBar scrollBar: ScrollBar {
-        policy: view.orientation === ListView.Vertical ? T.ScrollBar.AsNeeded : T.ScrollBar.AlwaysOff
+        policy: control.orientation === ListView.Vertical ? T.ScrollBar.AsNeeded : T.ScrollBar.AlwaysOff
     }
 
     readonly property bool isVertical: orientation === ListView.Vertical
@@ -36,4 +36,8 @@ ListView {
 
     Accessible.role: Accessible.List
     Accessible.name: qsTr("List")
+
+    FollowCurrentItem {
+        view: control
+    }
 }

@@ -1,78 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "generic/keyboardkey.h"
-#include "generic/keyboardpad.h"
+#include "keyboardscene.h"
 #include "testkit/testcase.h"
-#include "viewscene.h"
-
-#include <QtTest/qsignalspy.h>
 
 using namespace Qt::StringLiterals;
-using namespace stbgeneric;
-
-namespace {
-
-constexpr int firstLetter = 12; // "q"
-constexpr int backspace = 11;
-constexpr int capsLock = 23;
-constexpr int shift = 35;
-constexpr int page = 47;
-constexpr int language = 48;
-constexpr int domain = 49;
-constexpr int space = 51;
-constexpr int cursorLeft = 54;
-constexpr int cursorRight = 55;
-
-struct Scene : stbtest::ViewScene
-{
-    /*! A keyboard with these \a properties, which has the focus. */
-    bool showKeyboard(const QString &properties = {})
-    {
-        return show(u"Keyboard { focus: true; "_s + properties + u"}"_s);
-    }
-
-    KeyboardPad *pad() const { return qobject_cast<KeyboardPad *>(item.get()); }
-
-    KeyboardKey *key(int index) const
-    {
-        const QList<QQuickItem *> children = item->childItems();
-        for (QQuickItem *child : children) {
-            auto *key = qobject_cast<KeyboardKey *>(child);
-            if (key && key->index() == index)
-                return key;
-        }
-        return nullptr;
-    }
-
-    /*! A line of text above a keyboard that writes into it. */
-    bool showLineAndKeyboard(const QString &text)
-    {
-        return show(u"FocusScope { focus: true\n"
-                    "property alias line: line\n"
-                    "property alias keyboard: keyboard\n"
-                    "LineEdit { id: line; width: 400; height: 40; text: '"_s
-                    + text
-                    + u"' }\n"
-                      "Keyboard { id: keyboard; y: 50; focus: true; target: line }\n"
-                      "Item { id: other; objectName: 'other'; width: 9; height: 9 } }"_s);
-    }
-    QObject *line() const { return item->property("line").value<QObject *>(); }
-    KeyboardPad *keyboard() const { return item->property("keyboard").value<KeyboardPad *>(); }
-};
-
-QStringList texts(const QSignalSpy &spy)
-{
-    QStringList result;
-    for (const QList<QVariant> &arguments : spy)
-        result.append(arguments.at(0).toString());
-    return result;
-}
-
-} // namespace
+using namespace keyboard;
 
 class tst_Keyboard : public stbtest::TestCase
 {
     Q_OBJECT
 private Q_SLOTS:
+    // --- steering ---
+
     void okTypesTheCurrentKey_data()
     {
         QTest::addColumn<Qt::Key>("key");
@@ -84,7 +22,7 @@ private Q_SLOTS:
     void okTypesTheCurrentKey()
     {
         QFETCH(Qt::Key, key);
-        Scene scene;
+        KeyboardScene scene;
         QVERIFY(scene.showKeyboard());
         QSignalSpy typed(scene.pad(), &KeyboardPad::textEntered);
         QVERIFY(scene.press(key));
@@ -93,7 +31,7 @@ private Q_SLOTS:
 
     void theFirstLetterIsCurrentAtFirst()
     {
-        Scene scene;
+        KeyboardScene scene;
         QVERIFY(scene.showKeyboard());
         QCOMPARE(scene.pad()->currentKey(), firstLetter);
         QCOMPARE(scene.focusItem(), scene.key(firstLetter));
@@ -101,7 +39,7 @@ private Q_SLOTS:
 
     void arrowsSteerAndTheCurrentKeyHasTheFocus()
     {
-        Scene scene;
+        KeyboardScene scene;
         QVERIFY(scene.showKeyboard());
         QSignalSpy changed(scene.pad(), &KeyboardPad::currentKeyChanged);
         const QList<std::pair<Qt::Key, int>> steps {
@@ -117,7 +55,7 @@ private Q_SLOTS:
 
     void steeringGoesAround()
     {
-        Scene scene;
+        KeyboardScene scene;
         QVERIFY(scene.showKeyboard());
         QVERIFY(scene.press(Qt::Key_Left));
         QCOMPARE(scene.pad()->currentKey(), capsLock);
@@ -129,7 +67,7 @@ private Q_SLOTS:
 
     void anArrowThatIsHeldGoesOn()
     {
-        Scene scene;
+        KeyboardScene scene;
         QVERIFY(scene.showKeyboard());
         scene.hold(Qt::Key_Right, 4);
         QCOMPARE(scene.pad()->currentKey(), firstLetter + 5);
@@ -137,7 +75,7 @@ private Q_SLOTS:
 
     void withoutWrappingAnArrowAtTheEdgeIsLeftToOthers()
     {
-        Scene scene;
+        KeyboardScene scene;
         QVERIFY(scene.showKeyboard(u"wrapsHorizontally: false; wrapsVertically: false; currentKey: 0; "_s));
         QVERIFY(!scene.press(Qt::Key_Left));
         QVERIFY(!scene.press(Qt::Key_Up));
@@ -150,7 +88,7 @@ private Q_SLOTS:
 
     void theFocusLeavesWhereWrappingIsOff()
     {
-        Scene scene;
+        KeyboardScene scene;
         QVERIFY(scene.show(u"FocusScope { focus: true\n"
                            "Keyboard { id: keyboard; focus: true; wrapsVertically: false; currentKey: 48\n"
                            "KeyNavigation.down: below; KeyNavigation.priority: KeyNavigation.AfterItem }\n"
@@ -174,7 +112,7 @@ private Q_SLOTS:
     void otherKeysAreLeftToOthers()
     {
         QFETCH(Qt::Key, key);
-        Scene scene;
+        KeyboardScene scene;
         QVERIFY(scene.showKeyboard());
         QVERIFY(!scene.press(key));
     }
@@ -183,7 +121,7 @@ private Q_SLOTS:
 
     void eachKindOfKeyTellsWhatItDoes()
     {
-        Scene scene;
+        KeyboardScene scene;
         QVERIFY(scene.showKeyboard());
         KeyboardPad *pad = scene.pad();
         QSignalSpy typed(pad, &KeyboardPad::textEntered);
@@ -200,7 +138,7 @@ private Q_SLOTS:
 
     void aPressedKeyBecomesTheCurrentOne()
     {
-        Scene scene;
+        KeyboardScene scene;
         QVERIFY(scene.showKeyboard());
         scene.pad()->pressKey(space);
         QCOMPARE(scene.pad()->currentKey(), space);
@@ -227,7 +165,7 @@ private Q_SLOTS:
     {
         QFETCH(int, key);
         QFETCH(QByteArray, signal);
-        Scene scene;
+        KeyboardScene scene;
         QVERIFY(scene.showKeyboard());
         scene.pad()->setCurrentKey(key);
         QSignalSpy spy(scene.pad(), signal.constData());
@@ -237,7 +175,7 @@ private Q_SLOTS:
 
     void shiftCapsLockSymbolsAndLanguageSwitchTheKeys()
     {
-        Scene scene;
+        KeyboardScene scene;
         QVERIFY(scene.showKeyboard());
         KeyboardPad *pad = scene.pad();
         QSignalSpy typed(pad, &KeyboardPad::textEntered);
@@ -260,7 +198,7 @@ private Q_SLOTS:
 
     void aDomainDoesNotEndShift()
     {
-        Scene scene;
+        KeyboardScene scene;
         QVERIFY(scene.showKeyboard());
         scene.pad()->pressKey(shift);
         scene.pad()->pressKey(domain);
@@ -271,7 +209,7 @@ private Q_SLOTS:
 
     void propertiesSetTheState()
     {
-        Scene scene;
+        KeyboardScene scene;
         QVERIFY(scene.showKeyboard(u"languages: ['de', 'ru']; language: 'de'; capsLock: true; shift: true;"
                                    "symbols: true; "_s));
         const KeyboardPad *pad = scene.pad();
@@ -319,7 +257,7 @@ private Q_SLOTS:
 
     void aRealKeyboardTypesToo()
     {
-        Scene scene;
+        KeyboardScene scene;
         QVERIFY(scene.showKeyboard());
         QSignalSpy typed(scene.pad(), &KeyboardPad::textEntered);
         QSignalSpy erased(scene.pad(), &KeyboardPad::backspacePressed);
@@ -334,172 +272,13 @@ private Q_SLOTS:
 
     void aClickPressesAKeyAndTakesTheFocus()
     {
-        Scene scene;
+        KeyboardScene scene;
         QVERIFY(scene.show(u"Keyboard { }"_s));
         QSignalSpy typed(scene.pad(), &KeyboardPad::textEntered);
         const QPointF place = scene.key(14)->mapToScene({ 5, 5 });
         QTest::mouseClick(scene.stage.window(), Qt::LeftButton, {}, place.toPoint());
         QCOMPARE(texts(typed), QStringList { u"e"_s });
         QCOMPARE(scene.focusItem(), scene.key(14));
-    }
-
-    // --- into a line of text ---
-
-    void keysWriteIntoTheTarget()
-    {
-        Scene scene;
-        QVERIFY(scene.showLineAndKeyboard(u"ab"_s));
-        for (const int key : { firstLetter, cursorLeft, space, cursorRight, domain, backspace })
-            scene.keyboard()->pressKey(key);
-        QCOMPARE(scene.line()->property("text").toString(), u"ab q.co"_s);
-    }
-
-    void leftIsLeftOnTheScreenInArabicToo()
-    {
-        Scene scene;
-        QVERIFY(scene.showLineAndKeyboard(u"ابت"_s));
-        scene.line()->setProperty("cursorPosition", 0); // at the right
-        scene.keyboard()->pressKey(cursorLeft);
-        QCOMPARE(scene.line()->property("cursorPosition").toInt(), 1);
-        scene.keyboard()->pressKey(cursorRight);
-        QCOMPARE(scene.line()->property("cursorPosition").toInt(), 0);
-    }
-
-    void theTargetIsBeingEditedWhileTheKeyboardHasTheFocus()
-    {
-        Scene scene;
-        QVERIFY(scene.showLineAndKeyboard({}));
-        QCOMPARE(scene.line()->property("editing").toBool(), true);
-        scene.item->findChild<QQuickItem *>(u"other"_s)->forceActiveFocus();
-        QCOMPARE(scene.line()->property("editing").toBool(), false);
-    }
-
-    void withoutTargetNothingIsWritten()
-    {
-        Scene scene;
-        QVERIFY(scene.showKeyboard());
-        for (const int key : { firstLetter, cursorLeft, cursorRight, backspace })
-            scene.pad()->pressKey(key);
-    }
-
-    // --- places ---
-
-    void theSizeFollowsFromKeysAndSpacing()
-    {
-        Scene scene;
-        QVERIFY(scene.showKeyboard(u"keyWidth: 31; keyHeight: 23; columnSpacing: 7; rowSpacing: 5;"_s));
-        QCOMPARE(scene.item->implicitWidth(), 13 * 31 + 12 * 7);
-        QCOMPARE(scene.item->implicitHeight(), 5 * 23 + 4 * 5);
-        QCOMPARE(QRectF(scene.key(14)->position(), scene.key(14)->size()), QRectF(2 * 38, 28, 31, 23));
-        QCOMPARE(QRectF(scene.key(space)->position(), scene.key(space)->size()),
-                 QRectF(6 * 38, 4 * 28, 107, 23));
-        QCOMPARE(scene.key(cursorRight)->x() + 31, scene.item->implicitWidth());
-    }
-
-    void keysKeepTheirPlacesInAMirroredLayout()
-    {
-        Scene scene;
-        QVERIFY(scene.showKeyboard(u"LayoutMirroring.enabled: true; LayoutMirroring.childrenInherit: true;"
-                                   "language: 'ar';"_s));
-        QVERIFY(scene.key(12)->x() < scene.key(13)->x());
-        QVERIFY(scene.press(Qt::Key_Right));
-        QVERIFY(scene.press(Qt::Key_Left));
-        QVERIFY(scene.press(Qt::Key_Right));
-        QCOMPARE(scene.pad()->currentKey(), 13);
-    }
-
-    void aKeyWithAnOddIndexCountsAsTheFirstOne()
-    {
-        KeyboardKey key;
-        key.setIndex(3);
-        key.setIndex(77);
-        QCOMPARE(key.index(), 0);
-        QVERIFY(key.name().isEmpty()); // without a keyboard
-        key.press();
-    }
-
-    void aKeyMayOutliveItsKeyboard()
-    {
-        KeyboardKey key;
-        {
-            KeyboardPad pad;
-            key.setParentItem(&pad);
-            QCOMPARE(key.name(), u"1"_s);
-        }
-        QVERIFY(key.name().isEmpty());
-    }
-
-    // --- for people who do not see it ---
-
-    void keysAreButtonsWithNames()
-    {
-        Scene scene;
-        QVERIFY(scene.showKeyboard());
-        for (int index = 0; index < KeyboardPad::keyCount(); ++index) {
-            QAccessibleInterface *key = stbtest::accessible(scene.key(index));
-            QVERIFY(key);
-            QCOMPARE(key->role(), QAccessible::Button);
-            QVERIFY2(!key->text(QAccessible::Name).isEmpty(), qPrintable(QString::number(index)));
-            QVERIFY(key->state().focusable);
-        }
-    }
-
-    void controlKeysSayWhatTheyDo()
-    {
-        Scene scene;
-        QVERIFY(scene.showKeyboard());
-        const auto name = [&scene](int key) {
-            return stbtest::accessible(scene.key(key))->text(QAccessible::Name);
-        };
-        QCOMPARE(name(backspace), u"Backspace"_s);
-        QCOMPARE(name(capsLock), u"Caps lock"_s);
-        QCOMPARE(name(shift), u"Shift"_s);
-        QCOMPARE(name(page), u"Symbols"_s);
-        QCOMPARE(name(language), u"Language: English"_s);
-        QCOMPARE(name(space), u"Space"_s);
-        QCOMPARE(name(cursorLeft), u"Cursor left"_s);
-        QCOMPARE(name(cursorRight), u"Cursor right"_s);
-        QCOMPARE(name(firstLetter), u"q"_s);
-        scene.pad()->pressKey(page);
-        QCOMPARE(name(page), u"Letters"_s);
-        QCOMPARE(name(firstLetter), u"!"_s);
-    }
-
-    void shiftAndCapsLockTellWhetherTheyAreOn()
-    {
-        Scene scene;
-        QVERIFY(scene.showKeyboard());
-        const auto state = [&scene](int key) { return stbtest::accessible(scene.key(key))->state(); };
-        for (const int key : { shift, capsLock }) {
-            QVERIFY(state(key).checkable);
-            QVERIFY(!state(key).checked);
-            scene.pad()->pressKey(key);
-            QVERIFY(state(key).checked);
-        }
-        QVERIFY(!state(firstLetter).checkable);
-    }
-
-    void theCurrentKeyIsFocusedAndAScreenReaderCanPressIt()
-    {
-        Scene scene;
-        QVERIFY(scene.showKeyboard());
-        QVERIFY(stbtest::accessible(scene.key(firstLetter))->state().focused);
-        QVERIFY(!stbtest::accessible(scene.key(13))->state().focused);
-        QSignalSpy typed(scene.pad(), &KeyboardPad::textEntered);
-        stbtest::accessible(scene.key(13))
-                ->actionInterface()
-                ->doAction(QAccessibleActionInterface::pressAction());
-        QCOMPARE(texts(typed), QStringList { u"w"_s });
-    }
-
-    void theKeyboardIsAGroupWithAName()
-    {
-        Scene scene;
-        QVERIFY(scene.showKeyboard());
-        QAccessibleInterface *keyboard = stbtest::accessible(scene.item.get());
-        QVERIFY(keyboard);
-        QCOMPARE(keyboard->role(), QAccessible::Grouping);
-        QCOMPARE(keyboard->text(QAccessible::Name), u"Keyboard"_s);
     }
 };
 
