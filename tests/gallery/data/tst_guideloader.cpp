@@ -6,6 +6,7 @@
 #include <QtCore/qelapsedtimer.h>
 #include <QtCore/qfile.h>
 #include <QtCore/qtemporarydir.h>
+#include <QtCore/qtimezone.h>
 #include <QtTest/qsignalspy.h>
 
 #include <fcntl.h>
@@ -326,7 +327,7 @@ void TestGuideLoader::aPlaylistAloneShowsTheOwnGuide()
     GuideLoader loader;
     QSignalSpy finished(&loader, &GuideLoader::finished);
     const QString playlist = write("own.m3u", "#EXTM3U\n#EXTINF:-1 tvg-id=\"kids\",Small\nudp://1\n");
-    const QDateTime now(QDate(2026, 3, 4), QTime(20, 5), Qt::UTC);
+    const QDateTime now(QDate(2026, 3, 4), QTime(20, 5), QTimeZone::utc());
     loader.load({ {}, playlist, QStringLiteral("en"), now });
     QTRY_COMPARE(finished.size(), 1);
     QCOMPARE(loader.guide().channelCount(), 1);

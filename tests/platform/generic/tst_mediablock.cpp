@@ -144,7 +144,7 @@ private Q_SLOTS:
         const QQuickItem *title = stbtest::findItem(scene.item.get(), "QQuickText");
         QVERIFY(content && title);
         QVERIFY(title->height() > 17);
-        QCOMPARE(content->mapToItem(scene.item.get(), {}), QPointF(0, title->height() + 7));
+        QCOMPARE(content->mapToItem(scene.item.get(), QPointF()), QPointF(0, title->height() + 7));
         QCOMPARE(scene.item->implicitHeight(), title->height() + 7 + 31);
     }
 
@@ -153,7 +153,7 @@ private Q_SLOTS:
         Scene scene;
         QVERIFY(scene.showBlock(u"Item { objectName: 'content'; width: 20; height: 31 }"_s));
         auto *content = scene.item->findChild<QQuickItem *>(u"content"_s);
-        QCOMPARE(content->mapToItem(scene.item.get(), {}), QPointF());
+        QCOMPARE(content->mapToItem(scene.item.get(), QPointF()), QPointF());
         QCOMPARE(scene.item->implicitHeight(), 31);
     }
 
