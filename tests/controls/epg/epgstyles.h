@@ -128,7 +128,7 @@ inline design_system::PlayerHorizontalEpgViewStyle oddHorizontalEpgStyle()
     style.dateStyle.maxLineCount = 1;
     style.dateStyle.color = QColor(1, 1, 1);
     style.dateColor = QColor(91, 191, 241);
-    style.titleStyle.font = pixelFont(21);
+    style.titleStyle.font = pixelFont(29);
     style.titleStyle.maxLineCount = 2;
     style.titleStyle.alignment = Qt::AlignHCenter;
     style.titleStyle.color = QColor(2, 2, 2);

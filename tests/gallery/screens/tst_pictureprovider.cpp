@@ -317,7 +317,9 @@ void TestPictureProvider::theLargestPictureTakesLittleMemory_data()
     QTest::addColumn<QByteArray>("format");
     QTest::addColumn<int>("pictureFormat");
     QTest::addColumn<int>("megabytes");
-    QTest::newRow("PNG") << QByteArray("PNG") << int(QImage::Format_RGB888) << 32;
+    // Up to Qt 6.4 a PNG picture is scaled row by row while it is read; 6.8 holds the whole of it, 64 MiB.
+    const int png = QT_VERSION < QT_VERSION_CHECK(6, 5, 0) ? 32 : 80;
+    QTest::newRow("PNG") << QByteArray("PNG") << int(QImage::Format_RGB888) << png;
     QTest::newRow("grey PNG") << QByteArray("PNG") << int(QImage::Format_Grayscale8) << 112;
     QTest::newRow("JPEG") << QByteArray("JPEG") << int(QImage::Format_RGB888) << 32;
 }
