@@ -4,6 +4,7 @@
 #include <QtGui/qpainter.h>
 #include <QtGui/qpainterpath.h>
 #include <QtGui/qpixmapcache.h>
+#include <QtGui/qtransform.h>
 #include <QtQml/qqmlfile.h>
 #include <QtQml/qqmlinfo.h>
 #include <QtQuick/qquickwindow.h>
@@ -154,7 +155,9 @@ QImage TintedIcon::makePicture()
         qmlWarning(this) << "Cannot open: " << m_path;
         return {};
     }
-    const QImage picture = compose(source.mirrored(m_isMirrored, false), pixels, m_color, m_radius * ratio);
+    // QImage's own function for this has another name from Qt 6.9 on.
+    const QImage shown = m_isMirrored ? source.transformed(QTransform::fromScale(-1, 1)) : source;
+    const QImage picture = compose(shown, pixels, m_color, m_radius * ratio);
     QPixmapCache::insert(key, QPixmap::fromImage(picture));
     return picture;
 }
