@@ -18,7 +18,9 @@ private Q_SLOTS:
         second.previewRect.setHeight(157); // room for what is on the card
         m_second.setStyle(second);
         QVERIFY(fieldsPicture().save(m_folder.filePath("fields.png")));
-        QVERIFY(fieldsPicture(QSize(31, 77)).transformed(QTransform::fromScale(1, -1)).save(m_folder.filePath("tall.png")));
+        QVERIFY(fieldsPicture(QSize(31, 77))
+                        .transformed(QTransform::fromScale(1, -1))
+                        .save(m_folder.filePath("tall.png")));
     }
 
     void whatIsPaintedStepByStepIsWhatAFreshRowPaints()
