@@ -36,7 +36,7 @@ inline design_system::QmlButtonStyle oddButtonStyle()
     style.textMarginLeft = 7;
     style.textMarginRight = 11;
     style.titleSubtitleSpacing = 5;
-    style.titleStyle.font = pixelFont(21);
+    style.titleStyle.font = pixelFont(20);
     style.titleStyle.maxLineCount = 1;
     style.titleStyle.colors = { QColor(251, 252, 253), QColor(151, 252, 253), QColor(151, 152, 153),
                                 QColor(1, 2, 3) };

@@ -27,14 +27,14 @@ inline design_system::PlayerEpgDelegateStyle oddEpgStyle()
     design_system::PlayerEpgDelegateStyle style;
     style.titleSubtitleSpacing = 7;
     style.startTimeTextStyle.rect = QRect(501, 503, 113, 509);
-    style.startTimeTextStyle.font = pixelFont(21);
+    style.startTimeTextStyle.font = pixelFont(20);
     style.startTimeTextStyle.maxLineCount = 1;
     style.startTimeTextStyle.color = QColor(1, 1, 1);
     style.previewRect = QRect(131, 53, 417, 211);
     style.previewBottomSpacing = 33;
     style.cardColor = QColor(13, 17, 61, 117);
     style.reminderIconSpacing = 19;
-    style.statusTextStyle.font = pixelFont(21);
+    style.statusTextStyle.font = pixelFont(20);
     style.statusTextStyle.color = QColor(233, 223, 121);
     style.statusTextStyle.maxLineCount = 1;
     style.startsAtTextStyle.font = pixelFont(17);
@@ -187,7 +187,7 @@ inline design_system::PlayerEpgDateStyle oddEpgDateStyle()
 inline design_system::PlayerEpgDateStyle otherEpgDateStyle()
 {
     design_system::PlayerEpgDateStyle style;
-    style.monthStyle.font = pixelFont(21);
+    style.monthStyle.font = pixelFont(20);
     style.monthColor = QColor(241, 91, 41);
     style.dayStyle.font = pixelFont(15);
     style.dayActiveColor = QColor(201, 251, 131);
@@ -225,7 +225,7 @@ inline design_system::PlayerTvChannelItemStyle oddTvChannelStyle()
     style.qualityTextStyle.topPadding = 3;
     style.qualityTextStyle.rightPadding = 15;
     style.qualityTextStyle.bottomPadding = 1;
-    style.channelNameTextStyle.font = pixelFont(21);
+    style.channelNameTextStyle.font = pixelFont(20);
     style.channelNameTextStyle.maxLineCount = 1;
     style.channelNameTextStyle.color = QColor(251, 249, 231);
     style.programNameTextStyle.font = pixelFont(17);
@@ -263,7 +263,7 @@ inline design_system::PlayerTvChannelItemStyle otherTvChannelStyle()
     style.programNameSpacing = 9;
     style.nameQualitySpacing = 21;
     style.qualityTextStyle.backgroundColor = QColor(21, 91, 31);
-    style.qualityTextStyle.font = pixelFont(21);
+    style.qualityTextStyle.font = pixelFont(20);
     style.qualityTextStyle.color = QColor(211, 251, 131);
     style.qualityTextStyle.leftPadding = 3;
     style.qualityTextStyle.topPadding = 1;
