@@ -96,6 +96,22 @@ TimeSpan Guide::timeSpan(int channel, int programme) const
     return { record.start, record.stop };
 }
 
+double TimeSpan::progressAt(qint64 time) const
+{
+    if (time >= stop)
+        return time >= start ? 1 : 0;
+    return time <= start ? 0 : double(time - start) / double(stop - start);
+}
+
+int Guide::firstChannelOnAir(qint64 time) const
+{
+    for (int channel = 0; channel < channelCount(); ++channel) {
+        if (programmeAt(channel, time) >= 0)
+            return channel;
+    }
+    return isEmpty() ? -1 : 0;
+}
+
 int Guide::programmeAt(int channel, qint64 time) const
 {
     Q_ASSERT(channel >= 0 && channel < channelCount());

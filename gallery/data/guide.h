@@ -40,6 +40,8 @@ struct TimeSpan
     qint64 stop = 0;
 
     bool contains(qint64 time) const { return time >= start && time < stop; }
+    /*! How much of it is over at \a time, 0 to 1. What has no length is over when it has begun. */
+    double progressAt(qint64 time) const;
     friend bool operator==(const TimeSpan &, const TimeSpan &) = default;
 };
 
@@ -101,6 +103,8 @@ public:
         together the first. -1 when none is on.
     */
     int programmeAt(int channel, qint64 time) const;
+    /*! The first channel that has a programme on at \a time, else the first of all; -1 without channels. */
+    int firstChannelOnAir(qint64 time) const;
     /*! The first programme that starts after \a time, or -1. */
     int nextProgramme(int channel, qint64 time) const;
     /*! The last programme that starts before \a time, or -1. */

@@ -20,15 +20,6 @@ QString timeText(qint64 seconds)
     return localTime(seconds).toString(QStringLiteral("HH:mm"));
 }
 
-double progressOf(const TimeSpan &time, qint64 now)
-{
-    if (now >= time.stop)
-        return now >= time.start ? 1 : 0;
-    if (now <= time.start)
-        return 0;
-    return double(now - time.start) / double(time.stop - time.start);
-}
-
 QList<int> rowsOf(const Guide &guide, int channel, QDate date)
 {
     if (channel < 0 || channel >= guide.channelCount() || !date.isValid())
@@ -206,7 +197,7 @@ ProgrammeModel::State ProgrammeModel::stateAt(const TimeSpan &time) const
     state.live = time.contains(now);
     state.future = now < time.start;
     state.playable = state.live || (!state.future && now - time.start <= qint64(m_catchUpHours) * 3600);
-    state.progress = progressOf(time, now);
+    state.progress = time.progressAt(now);
     return state;
 }
 

@@ -100,11 +100,7 @@ QVariant ChannelRows::programmeData(int channel, int role) const
     const int programme = m_now.isValid() ? m_guide.programmeAt(channel, now) : -1;
     if (role == ProgrammeRole)
         return programme < 0 ? QString() : m_guide.programme(channel, programme).title;
-    if (programme < 0)
-        return 0.0;
-    // What is on has a length.
-    const TimeSpan time = m_guide.timeSpan(channel, programme);
-    return double(now - time.start) / double(time.stop - time.start);
+    return programme < 0 ? 0.0 : m_guide.timeSpan(channel, programme).progressAt(now);
 }
 
 QHash<int, QByteArray> ChannelRows::roleNames() const

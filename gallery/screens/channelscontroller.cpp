@@ -33,15 +33,6 @@ QStringList groupsOf(const Guide &guide)
     return allInOne ? QStringList() : groups;
 }
 
-int firstOnAir(const Guide &guide, const QDateTime &now)
-{
-    for (int channel = 0; channel < guide.channelCount(); ++channel) {
-        if (guide.programmeAt(channel, now.toSecsSinceEpoch()) >= 0)
-            return channel;
-    }
-    return guide.isEmpty() ? -1 : 0;
-}
-
 QString withoutLeadingZeros(const QString &number)
 {
     qsizetype zeros = 0;
@@ -71,7 +62,7 @@ void ChannelsController::setGuide(const Guide &guide)
     const bool otherGroups = groups != m_groups;
     m_groups = groups;
     if (guide.channelIndex(m_playingId) < 0) {
-        const int first = firstOnAir(guide, m_clock->now());
+        const int first = guide.firstChannelOnAir(m_clock->now().toSecsSinceEpoch());
         m_playingId = first < 0 ? QString() : guide.channel(first).id;
     }
     if (m_chosenId.isEmpty())

@@ -57,7 +57,7 @@ void GuideController::start()
     m_channels.setNow(m_clock->now());
     m_programmes.setNow(m_clock->now());
     m_days.setToday(m_clock->now().date());
-    m_channelRow = firstChannelOnAir(shownGuide());
+    m_channelRow = shownGuide().firstChannelOnAir(m_clock->now().toSecsSinceEpoch());
     m_programmes.select(m_channelRow, m_clock->now().date());
     chooseNow();
 }
@@ -107,16 +107,6 @@ int GuideController::rowOf(const Kept &kept) const
         }
     }
     return found;
-}
-
-int GuideController::firstChannelOnAir(const Guide &guide) const
-{
-    const qint64 now = m_clock->now().toSecsSinceEpoch();
-    for (int channel = 0; channel < guide.channelCount(); ++channel) {
-        if (guide.programmeAt(channel, now) >= 0)
-            return channel;
-    }
-    return guide.isEmpty() ? -1 : 0;
 }
 
 QString GuideController::channelNumber() const

@@ -177,7 +177,6 @@ private:
     QVariant chosen(ProgrammeModel::Role role) const;
     QString channelNameAt(int row) const;
     QString channelNameBeside(int key) const;
-    int firstChannelOnAir(const Guide &guide) const;
     bool pressAnywhere(int key);
     bool pressInDays(int key);
     bool pressInProgrammes(int key);

@@ -145,10 +145,7 @@ QString PlayerController::facts() const
 double PlayerController::progress() const
 {
     const int row = watchedRow();
-    if (row < 0)
-        return 0;
-    const TimeSpan time = m_programmes.timeSpan(row);
-    return double(moment() - time.start) / double(time.stop - time.start);
+    return row < 0 ? 0 : m_programmes.timeSpan(row).progressAt(moment());
 }
 
 QString PlayerController::clockText() const

@@ -14,13 +14,6 @@ namespace gallery {
 
 namespace {
 
-double progressAt(const TimeSpan &time, qint64 now)
-{
-    if (now >= time.stop)
-        return now >= time.start ? 1 : 0;
-    return now <= time.start ? 0 : double(now - time.start) / double(time.stop - time.start);
-}
-
 bool isPast(const TimeSpan &time, qint64 now)
 {
     return now >= time.start && now >= time.stop;
@@ -68,7 +61,7 @@ void PlayerProgrammes::setNow(const QDateTime &now)
             roles = { ExactDateRole, LiveRole };
         if (isPast(time, before) != isPast(time, after))
             roles.append(PastRole);
-        if (progressAt(time, before) != progressAt(time, after))
+        if (time.progressAt(before) != time.progressAt(after))
             roles.append(ProgressRole);
         if (!roles.isEmpty())
             Q_EMIT dataChanged(index(row), index(row), roles);
@@ -113,7 +106,7 @@ QVariant PlayerProgrammes::data(const QModelIndex &index, int role) const
     case PastRole:
         return isPast(time, now);
     case ProgressRole:
-        return progressAt(time, now);
+        return time.progressAt(now);
     default:
         return textData(index.row(), role);
     }
