@@ -17,11 +17,7 @@ ListView {
     clip: true
     // Rows made ahead of need would still be on their way when the model is reset, which Qt warns of.
     cacheBuffer: 0
-    // The chosen row stays in the middle as far as the ends of the list allow, at once: a view that follows a
-    // highlight gets there in steps of an animation, and is elsewhere when a key comes in between.
     highlightFollowsCurrentItem: false
-    onCurrentItemChanged: positionViewAtIndex(currentIndex, ListView.Center)
-    onHeightChanged: positionViewAtIndex(currentIndex, ListView.Center)
     model: controller.channels
     currentIndex: controller.channelRow
     delegate: Item {
@@ -76,6 +72,9 @@ ListView {
         // qmllint enable unqualified type
     }
 
+    MiddleKeeper {
+        list: list
+    }
     LogoSheet {
         id: sheet
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "screens/middlekeeper.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace gallery {
@@ -64,11 +65,29 @@ void MiddleKeeper::arrange()
         QMetaObject::invokeMethod(m_list, "forceLayout");
         QMetaObject::invokeMethod(m_list, "positionViewAtIndex",
                                   Q_ARG(int, m_list->property("currentIndex").toInt()), Q_ARG(int, center));
-        // What lies between pixels looks another way when only a part of it is painted again.
-        for (const char *position : { "contentX", "contentY" })
-            m_list->setProperty(position, std::round(m_list->property(position).toReal()));
+        placeOnPixels();
     }
     m_keeping = false;
+}
+
+void MiddleKeeper::placeOnPixels()
+{
+    const auto *current = m_list->property("currentItem").value<QQuickItem *>();
+    if (current == nullptr)
+        return;
+    const bool vertical = m_list->property("orientation").toInt() == Qt::Vertical;
+    const char *position = vertical ? "contentY" : "contentX";
+    const qreal begin = m_list->property(vertical ? "originY" : "originX").toReal();
+    const qreal length = m_list->property(vertical ? "contentHeight" : "contentWidth").toReal();
+    const qreal size = vertical ? m_list->height() : m_list->width();
+    const qreal before = vertical ? current->y() : current->x();
+    const qreal itemSize = vertical ? current->height() : current->width();
+    // What lies between pixels looks another way when only a part of it is painted again. Which way a half is
+    // rounded must not depend on where the content happens to begin.
+    const qreal middle = qBound(begin, before - std::floor((size - itemSize) / 2),
+                                std::max(begin, begin + length - size));
+    const qreal now = m_list->property(position).toReal();
+    m_list->setProperty(position, std::round(std::abs(now - middle) <= 1 ? middle : now));
 }
 
 void MiddleKeeper::updatePolish()

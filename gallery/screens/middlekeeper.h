@@ -36,6 +36,7 @@ private Q_SLOTS:
 
 private:
     void arrange();
+    void placeOnPixels();
 
     QPointer<QQuickItem> m_list;
     QPointer<QQuickItem> m_current;
