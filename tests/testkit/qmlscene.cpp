@@ -17,9 +17,20 @@ QQmlEngine *QmlScene::engine()
 
 std::unique_ptr<QObject> QmlScene::createObject(const QString &text)
 {
-    m_errorString.clear();
     QQmlComponent component(&m_engine);
     component.setData(text.toUtf8(), QUrl(QStringLiteral("qrc:/test/text.qml")));
+    return create(component);
+}
+
+std::unique_ptr<QObject> QmlScene::createObject(const QUrl &url)
+{
+    QQmlComponent component(&m_engine, url);
+    return create(component);
+}
+
+std::unique_ptr<QObject> QmlScene::create(QQmlComponent &component)
+{
+    m_errorString.clear();
     std::unique_ptr<QObject> object(component.isReady() ? component.create() : nullptr);
     if (!object || component.isError()) {
         fail(component.errorString());

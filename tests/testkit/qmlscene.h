@@ -7,6 +7,8 @@
 
 #include <memory>
 
+class QQmlComponent;
+
 namespace stbtest {
 
 /*! A QML engine that finds the build's modules, and items from QML text. It has to outlive its items. */
@@ -22,12 +24,17 @@ public:
         and errorString() repeats it.
     */
     std::unique_ptr<QObject> createObject(const QString &text);
+    /*!
+        The same from the file \a url. From Qt 6.8 on the engine finds components that are declared within others only
+        when it can read the file.
+    */
+    std::unique_ptr<QObject> createObject(const QUrl &url);
 
-    /*! The same for an item of the class \a Item, made a child item of \a parent. */
-    template <typename Item = QQuickItem>
-    std::unique_ptr<Item> createItem(const QString &text, QQuickItem *parent = nullptr)
+    /*! The same, from a text or an url, for an item of the class \a Item, made a child item of \a parent. */
+    template <typename Item = QQuickItem, typename Source>
+    std::unique_ptr<Item> createItem(const Source &source, QQuickItem *parent = nullptr)
     {
-        std::unique_ptr<QObject> object = createObject(text);
+        std::unique_ptr<QObject> object = createObject(source);
         auto *item = qobject_cast<Item *>(object.get());
         if (!item) {
             if (object)
@@ -44,6 +51,7 @@ public:
     QString errorString() const;
 
 private:
+    std::unique_ptr<QObject> create(QQmlComponent &component);
     void fail(const QString &message);
 
     QQmlEngine m_engine;

@@ -17,13 +17,19 @@ public:
                           const QColor &background = Qt::white)
         : stage(size, background)
     {
-        QFocusEvent focus(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
-        QCoreApplication::sendEvent(stage.window(), &focus);
+        activate();
         item = qml.createItem(QStringLiteral("import QtQuick\n"
                                              "import QtQuick.Templates as T\n"
                                              "import Stbui.UI.Qml.Controls.Generic\n")
                                       + text,
                               stage.contentItem());
+    }
+    /*! The same from the file \a url, which may have components of its own. */
+    GenericScene(const QUrl &url, const QSize &size, const QColor &background)
+        : stage(size, background)
+    {
+        activate();
+        item = qml.createItem(url, stage.contentItem());
     }
 
     /*! The item with this objectName. */
@@ -81,6 +87,13 @@ public:
     stbtest::QmlScene qml;
     stbtest::Stage stage;
     std::unique_ptr<QQuickItem> item;
+
+private:
+    void activate()
+    {
+        QFocusEvent focus(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+        QCoreApplication::sendEvent(stage.window(), &focus);
+    }
 };
 
 #endif // TESTS_PLATFORM_GENERIC_GENERICSCENE_H

@@ -32,8 +32,8 @@ struct Scene : stbtest::ViewScene
         const QString path = icons.path() + u'/';
         return show(u"Keyboard { x: 11; y: 13; focus: true; keyRoundingRadius: 7; keyWidth: 67; keyHeight: 55;"
                     "rowSpacing: 5; columnSpacing: 9; keyBackgroundColor: '#263445'; keyTextColor: '#f4f7fa';"
-                    "symbolKeysFont { family: 'DejaVu Sans'; pixelSize: 25 }"
-                    "controlKeysFont { family: 'DejaVu Sans'; pixelSize: 17 }"
+                    "symbolKeysFont { family: 'DejaVu Sans'; pixelSize: 24 }"
+                    "controlKeysFont { family: 'DejaVu Sans'; pixelSize: 18 }"
                     "domainKeysFont { family: 'DejaVu Sans'; pixelSize: 15 }"_s
                     + u"backspaceIconPath: '%1backspace.png'; leftIconPath: '%1left.png';"
                       "rightIconPath: '%1right.png'; capslockEnabledIconPath: '%1on.png';"
