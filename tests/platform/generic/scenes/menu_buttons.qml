@@ -3,12 +3,15 @@ import QtQuick
 import Stbui.UI.Qml.Controls.Generic
 
 Column { x: 10; y: 20; spacing: 30
+    // The linter of Qt 6.4 takes sizes of whole numbers for another type.
+    // qmllint disable type
     component Entry: MainMenuButton {
         baseHeight: 48; textFont.pixelSize: 24; leftPadding: 24; rightPadding: 24; roundingRadius: 24
         leftIconSize: Qt.size(32, 32); rightIconSize: Qt.size(32, 32); rightIconRoundingRadius: 16
         backgroundColors: ['transparent', '#263445', '#ffffff']
         textColors: ['#a0b0c0', '#ffffff', '#0a1118']
     }
+    // qmllint enable type
     component Tab: TabButton {
         font.family: 'DejaVu Sans'; font.pixelSize: 24
         leftPadding: 24; rightPadding: 24; minimumHeight: 56; roundingRadius: 8
