@@ -15,8 +15,6 @@ ListView {
     spacing: Look.tiny
     cacheBuffer: 0
     highlightFollowsCurrentItem: false
-    onCurrentItemChanged: positionViewAtIndex(currentIndex, ListView.Center)
-    onWidthChanged: positionViewAtIndex(currentIndex, ListView.Center)
     model: controller.groups
     currentIndex: controller.groupIndex
     delegate: Rectangle {
@@ -72,5 +70,9 @@ ListView {
         id: metrics
 
         font: Look.caption
+    }
+
+    MiddleKeeper {
+        list: list
     }
 }

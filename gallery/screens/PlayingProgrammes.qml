@@ -21,6 +21,13 @@ Item {
     ListView {
         id: list
 
+        // Between its margins the list is less than nothing wide at first, and what is placed then gets places
+        // that a mirrored list of Qt 6.11 does not find again.
+        function showCurrent() {
+            if (width > 0)
+                positionViewAtIndex(currentIndex, ListView.Beginning);
+        }
+
         objectName: "programmes"
         anchors.fill: parent
         anchors.leftMargin: Look.safeX
@@ -39,8 +46,8 @@ Item {
         model: programmes.player.programmes
         currentIndex: programmes.player.programmeRow
         // At once: the list is as long as the guide, and another channel has other programmes.
-        onCurrentItemChanged: positionViewAtIndex(currentIndex, ListView.Beginning)
-        onWidthChanged: positionViewAtIndex(currentIndex, ListView.Beginning)
+        onCurrentItemChanged: showCurrent()
+        onWidthChanged: showCurrent()
         highlightFollowsCurrentItem: false
         // With Qt 6.4 a component cannot say that it belongs where it stands; the linter asks for that.
         // qmllint disable unqualified

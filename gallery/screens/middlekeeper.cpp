@@ -57,7 +57,8 @@ void MiddleKeeper::keep()
 
 void MiddleKeeper::arrange()
 {
-    if (m_list == nullptr)
+    // A list between anchors with margins is less than nothing wide before it has its place.
+    if (m_list == nullptr || m_list->width() <= 0 || m_list->height() <= 0)
         return;
     m_keeping = true;
     for (int attempt = 0; m_moved && attempt < longestSearch; ++attempt) {
