@@ -193,9 +193,13 @@ def translation_units():
         words = shlex.split(entry["command"])
         target = words[words.index("-o") + 1] if "-o" in words else ""
         units[path[len(str(ROOT)) + 1:]] = (entry["command"], headers_read(target, lists))
-    (BUILD / "lint").mkdir(exist_ok=True)
-    (BUILD / "lint" / database.name).write_text(json.dumps(entries))
+    write_commands(entries)
     return units
+
+
+def write_commands(entries):
+    (BUILD / "lint").mkdir(exist_ok=True)
+    (BUILD / "lint" / "compile_commands.json").write_text(json.dumps(entries))
 
 
 def configuration_of(file):
@@ -226,17 +230,83 @@ def findings_in(output):
     return "\n".join(line for line in output.splitlines() if not noise.match(line)).strip()
 
 
+def is_known(key):
+    return key is not None and (CACHE / key[:2] / key).exists()
+
+
+def remember(key):
+    if key is not None:
+        (CACHE / key[:2]).mkdir(parents=True, exist_ok=True)
+        (CACHE / key[:2] / key).touch()
+
+
 def tidy_one(program, file, key):
-    if key is not None and (CACHE / key[:2] / key).exists():
-        os.utime(CACHE / key[:2] / key)
+    if is_known(key):
+        remember(key)
         return file, "", True
     result = run([program, "-p", str(BUILD / "lint"), "--quiet", str(ROOT / file)])
     if result.returncode == 0:
-        if key is not None:
-            (CACHE / key[:2]).mkdir(parents=True, exist_ok=True)
-            (CACHE / key[:2] / key).touch()
+        remember(key)
         return file, "", False
     return file, findings_in(result.stdout) or f"{file}: clang-tidy ended with {result.returncode}", False
+
+
+# Most of the time goes into Qt's headers, so that sources which are compiled alike are read as one, up to so many.
+SOURCES_AT_ONCE = 8
+
+
+def own_names(file):
+    """Names that a source may have for itself: two sources that both have one cannot be read as one."""
+    text = (ROOT / file).read_text(errors="replace")
+    return {*re.findall(r"^(?=\S)(?:[\w:<>,*&\[\] ]+[ *&])?(\w+)\(", text, re.M),
+            *re.findall(r"^(?:static |inline )*const\w* .*?(\w+)(?: =|\{| \{|\[|\()", text, re.M),
+            *re.findall(r"^(?:struct|class|enum class|enum|using(?! namespace)) (\w+)(?!.*;$)", text, re.M),
+            *re.findall(r"^#define (\w+)", text, re.M)}
+
+
+def bundles_of(files, units):
+    """The sources in lists of those that are read as one."""
+    bundles = []
+    for file in files:
+        command = units[file][0]
+        words = shlex.split(command)
+        alike = " ".join(word for word in words if not word.endswith((file, ".o", ".d")))
+        names = own_names(file)
+        for bundle in bundles:
+            if (bundle["alike"] == alike and len(bundle["files"]) < SOURCES_AT_ONCE
+                    and bundle["names"].isdisjoint(names)):
+                bundle["files"].append(file)
+                bundle["names"] |= names
+                break
+        else:
+            bundles.append({"alike": alike, "files": [file], "names": names})
+    return [bundle["files"] for bundle in bundles]
+
+
+def tidy_bundle(program, number, files, units, keys):
+    """
+    The result of each source. Findings count only when the source was read on its own; what is read as one and
+    clean is clean, but for using declarations nobody needs, which clang-tidy looks for in the main file.
+    """
+    known = [file for file in files if is_known(keys[file])]
+    files = [file for file in files if file not in known]
+    results = [tidy_one(program, file, keys[file]) for file in known]
+    if len(files) > 1:
+        bundle = BUILD / "lint" / f"bundle_{number}"
+        bundle.mkdir(exist_ok=True)
+        source = bundle / "sources.cpp"
+        source.write_text("".join(f'#include "{ROOT / file}" // NOLINT(bugprone-suspicious-include)\n'
+                                  for file in files))
+        command = units[files[0]][0].replace(str(ROOT / files[0]), str(source))
+        (bundle / "compile_commands.json").write_text(json.dumps(
+            [{"directory": str(BUILD), "command": command, "file": str(source)}]))
+        header_filter = re.search(r"^HeaderFilterRegex: '(.*)\\\.h\$'$", (ROOT / ".clang-tidy").read_text(), re.M)[1]
+        result = run([program, "-p", str(bundle), "--quiet", f"--header-filter={header_filter}", str(source)])
+        if result.returncode == 0:
+            for file in files:
+                remember(keys[file])
+            return results + [(file, "", False) for file in files]
+    return results + [tidy_one(program, file, keys[file]) for file in files]
 
 
 def forget_old_results():
@@ -266,13 +336,17 @@ def check_tidy(files, everything, shipped, jobs):
     program, digests = tool("clang-tidy"), Digests()
     keys = {file: tidy_key(file, units[file], program, digests) for file in chosen}
     seen, findings, cached = set(), list(missing), 0
+    bundles = bundles_of(chosen, units) if everything else [[file] for file in chosen]
     with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
-        for _, output, was_cached in pool.map(lambda file: tidy_one(program, file, keys[file]), chosen):
-            cached += was_cached
-            if output and output not in seen:
-                seen.add(output)
-                findings.append(output)
-                print(output, flush=True)
+        checks = [pool.submit(tidy_bundle, program, number, bundle, units, keys)
+                  for number, bundle in enumerate(bundles)]
+        for check in checks:
+            for _, output, was_cached in check.result():
+                cached += was_cached
+                if output and output not in seen:
+                    seen.add(output)
+                    findings.append(output)
+                    print(output, flush=True)
     forget_old_results()
     return len(chosen), cached, findings
 
