@@ -12,10 +12,11 @@ class StbEpgViewDelegatePrivate;
     A row of a programme guide, the QML element \c EpgViewDelegate: start time, title, subtitle and, while the
     programme is on air, a live badge above the title. It paints itself; it has no child items.
 
-    The width is set from outside. The row computes its height from its texts and writes it back; it is one
-    pixel less than the lowest painted line, and never below 0. The start time lies at the row's top left
-    corner, everything else begins at the left edge of the style's previewRect. Without a style, or with a width
-    or height of 0 or less, the row paints nothing; without a style or width it keeps its height.
+    The width is set from outside. The row computes its height from start time, title and subtitle and writes
+    it back: one pixel less than the lowest line of these, and never below 0; a badge alone does not make it
+    higher. The start time lies at the row's top left corner, everything else begins at the left edge of the
+    style's previewRect. Without a style, or with a width or height of 0 or less, the row paints nothing; without
+    a style or width it keeps its height.
 
     The badge's icon is ":/resources/icons/live_status_on.png" of the application; without it the badge holds
     the label alone. The label is the application's translation of "NOW_IN_LIVE" in the context "QObject". A badge

@@ -3,6 +3,8 @@
 
 #include "gallery/data/guide_p.h"
 
+#include <QtCore/qcoreapplication.h>
+
 #include <algorithm>
 
 namespace gallery {
@@ -94,6 +96,19 @@ TimeSpan Guide::timeSpan(int channel, int programme) const
     Q_ASSERT(programme >= 0 && programme < programmeCount(channel));
     const ProgrammeRecord &record = m_data->channels[size_t(channel)].programmes->records[size_t(programme)];
     return { record.start, record.stop };
+}
+
+QString Programme::shownTitle() const
+{
+    if (!title.isEmpty())
+        return title;
+    //: A programme whose title the guide does not tell
+    return subTitle.isEmpty() ? QCoreApplication::translate("Programme", "Untitled") : subTitle;
+}
+
+QString Programme::shownSubtitle() const
+{
+    return title.isEmpty() ? QString() : subTitle;
 }
 
 double TimeSpan::progressAt(qint64 time) const

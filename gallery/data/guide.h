@@ -63,6 +63,11 @@ struct Programme
     QString category;
     /*! The programme's picture: a web address or an existing local file; empty when the guide has none. */
     QUrl picture;
+
+    /*! The title to show, which is never empty: a guide may have only a subtitle, or neither. */
+    QString shownTitle() const;
+    /*! The line below the shown title; empty when the subtitle has the title's place. */
+    QString shownSubtitle() const;
 };
 
 /*!

@@ -141,9 +141,9 @@ QVariant ProgrammeModel::textData(int row, int role) const
     switch (role) {
     case Qt::DisplayRole:
     case TitleRole:
-        return programme.title;
+        return programme.shownTitle();
     case SubtitleRole:
-        return programme.subTitle;
+        return programme.shownSubtitle();
     case DescriptionRole:
         return programme.description;
     case CategoryRole:

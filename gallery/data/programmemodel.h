@@ -32,7 +32,7 @@ class ProgrammeModel : public QAbstractListModel
     Q_PROPERTY(int count READ count NOTIFY countChanged)
 public:
     enum Role {
-        TitleRole = Qt::UserRole + 1, /*!< title: QString; also Qt::DisplayRole */
+        TitleRole = Qt::UserRole + 1, /*!< title: QString, never empty; also Qt::DisplayRole */
         SubtitleRole, /*!< subtitle: QString, may be empty */
         StartTimeTextRole, /*!< startTimeText: QString, local time in 24 hours, "09:05" */
         StopTimeTextRole, /*!< stopTimeText: QString, as above */

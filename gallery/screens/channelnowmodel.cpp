@@ -19,7 +19,7 @@ QVariant ChannelNowModel::data(const QModelIndex &index, int role) const
     if (!m_now.isValid())
         return QString();
     const int programme = guide().programmeAt(index.row(), m_now.toSecsSinceEpoch());
-    return programme < 0 ? QString() : guide().programme(index.row(), programme).title;
+    return programme < 0 ? QString() : guide().programme(index.row(), programme).shownTitle();
 }
 
 QHash<int, QByteArray> ChannelNowModel::roleNames() const

@@ -99,7 +99,7 @@ QVariant ChannelRows::programmeData(int channel, int role) const
     const qint64 now = m_now.toSecsSinceEpoch();
     const int programme = m_now.isValid() ? m_guide.programmeAt(channel, now) : -1;
     if (role == ProgrammeRole)
-        return programme < 0 ? QString() : m_guide.programme(channel, programme).title;
+        return programme < 0 ? QString() : m_guide.programme(channel, programme).shownTitle();
     return programme < 0 ? 0.0 : m_guide.timeSpan(channel, programme).progressAt(now);
 }
 

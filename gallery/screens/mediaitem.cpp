@@ -50,8 +50,8 @@ MediaItem programmeItem(const Guide &guide, int channel, int index, const QDateT
     MediaItem item;
     item.kind = MediaItem::Kind::Programme;
     item.id = channelItemId(guide.channel(channel).id);
-    item.title = programme.title;
-    item.subtitle = programme.subTitle;
+    item.title = programme.shownTitle();
+    item.subtitle = programme.shownSubtitle();
     item.description = programme.description;
     item.genre = programme.category;
     item.channel = guide.channel(channel).name;

@@ -129,7 +129,7 @@ QString PlayerController::facts() const
     QStringList parts;
     if (const int row = watchedRow(); row >= 0) {
         const Programme programme = m_guide.programme(m_channelRow, row);
-        parts = { programme.category, programme.subTitle };
+        parts = { programme.category, programme.shownSubtitle() };
     }
     if (m_paused)
         parts.prepend(QCoreApplication::translate("PlayerScreen", "Paused"));

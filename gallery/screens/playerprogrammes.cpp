@@ -84,7 +84,7 @@ int PlayerProgrammes::rowOf(qint64 start, const QString &title) const
     for (int row = m_guide.nextProgramme(m_channel, start - 1); row >= 0 && row < m_count; ++row) {
         if (timeSpan(row).start != start)
             break;
-        if (m_guide.programme(m_channel, row).title == title)
+        if (m_guide.programme(m_channel, row).shownTitle() == title)
             return row;
         if (found < 0)
             found = row;
@@ -118,9 +118,9 @@ QVariant PlayerProgrammes::textData(int row, int role) const
     switch (role) {
     case Qt::DisplayRole:
     case TitleRole:
-        return programme.title;
+        return programme.shownTitle();
     case DescriptionRole:
-        return programme.description.isEmpty() ? programme.subTitle : programme.description;
+        return programme.description.isEmpty() ? programme.shownSubtitle() : programme.description;
     case PictureRole:
         return programme.picture.isEmpty() ? programmeStill(programme.category, programme.title)
                                            : programme.picture;

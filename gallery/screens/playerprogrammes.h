@@ -18,7 +18,7 @@ class PlayerProgrammes : public QAbstractListModel
     Q_OBJECT
 public:
     enum Role {
-        TitleRole = Qt::UserRole + 1, /*!< title: QString; also Qt::DisplayRole */
+        TitleRole = Qt::UserRole + 1, /*!< title: QString, never empty; also Qt::DisplayRole */
         ExactDateRole, /*!< exactDate: QString, day and times: "Today, 20:00 – 20:30" */
         DescriptionRole, /*!< description: QString, else the subtitle */
         PictureRole, /*!< picture: QUrl, a wide picture: the guide's, or one drawn for the category */

@@ -341,6 +341,14 @@
     </message>
 </context>
 <context>
+    <name>Programme</name>
+    <message>
+        <source>Untitled</source>
+        <extracomment>A programme whose title the guide does not tell</extracomment>
+        <translation>Без названия</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>NOW_IN_LIVE</source>
