@@ -83,6 +83,10 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
+protected:
+    /*! The index in the guide of the programme in \a row. */
+    int programmeAt(int row) const { return m_rows.at(row); }
+
 Q_SIGNALS:
     void channelChanged();
     void dateChanged();

@@ -139,6 +139,19 @@ QString Reminders::keepAside()
     return QStringLiteral("it cannot be renamed, and reminders are not stored");
 }
 
+QStringList Reminders::titlesAt(const QString &channelId, const QDateTime &start) const
+{
+    QStringList titles;
+    const std::optional<Reminder> first = made(channelId, start, {});
+    if (!first)
+        return titles;
+    auto place = std::lower_bound(m_reminders.cbegin(), m_reminders.cend(), *first, isBefore);
+    for (; place != m_reminders.cend() && place->start == first->start && place->channelId == channelId;
+         ++place)
+        titles.append(place->title);
+    return titles;
+}
+
 bool Reminders::contains(const QString &channelId, const QDateTime &start, const QString &title) const
 {
     const std::optional<Reminder> reminder = made(channelId, start, title);

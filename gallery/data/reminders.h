@@ -5,6 +5,7 @@
 #include <QtCore/qdatetime.h>
 #include <QtCore/qlist.h>
 #include <QtCore/qobject.h>
+#include <QtCore/qstringlist.h>
 
 namespace gallery {
 
@@ -15,7 +16,10 @@ struct Reminder
     QString channelId;
     /*! When the programme starts, in seconds since 1970-01-01 00:00 UTC. */
     qint64 start = 0;
-    /*! The programme's title; tells programmes of one channel that start together from each other. */
+    /*!
+        The programme's title when the reminder was set. It only tells programmes of one channel that start together
+        from each other: another language, or a newer guide, may call the programme something else.
+    */
     QString title;
 
     friend bool operator==(const Reminder &, const Reminder &) = default;
@@ -49,6 +53,8 @@ public:
     /*! All reminders, the next one first. */
     QList<Reminder> reminders() const { return m_reminders; }
 
+    /*! The titles of the reminders of what starts at \a start, in any time zone, on the channel; sorted. */
+    QStringList titlesAt(const QString &channelId, const QDateTime &start) const;
     /*! Whether there is a reminder; \a start may be in any time zone. */
     Q_INVOKABLE bool contains(const QString &channelId, const QDateTime &start, const QString &title) const;
     /*!

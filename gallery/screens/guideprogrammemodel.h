@@ -9,7 +9,11 @@
 
 namespace gallery {
 
-/*! A channel's programmes of one day, each with whether the viewer wants to be reminded of it. */
+/*!
+    A channel's programmes of one day, each with whether the viewer wants to be reminded of it. A reminder belongs to
+    what starts on its channel at its time; of several programmes to that of its title, else to the first. So it is
+    found again in another language, and when a programme gets a new title.
+*/
 class GuideProgrammeModel : public ProgrammeModel
 {
     Q_OBJECT
@@ -31,6 +35,9 @@ public:
 
 private:
     QString channelId() const;
+    QStringList remindersOf(int row) const;
+    QStringList titlesTogetherWith(int programme) const;
+    QString shownTitle(int programme) const;
     void updateReminders();
 
     QPointer<Reminders> m_reminders;

@@ -96,6 +96,62 @@ private Q_SLOTS:
         QVERIFY(!hasReminder());
     }
 
+    /*! "a" with a single show from 20:30 on for each title. */
+    static gallery::Guide together(const QStringList &titles)
+    {
+        gallery::GuideBuilder builder;
+        QList<guides::Show> shows { { "Now", guides::at(20, 0), guides::at(20, 30) } };
+        for (const QString &title : titles)
+            shows.append({ title, guides::at(20, 30), guides::at(21, 0) });
+        guides::addChannel(builder, "a", shows);
+        return builder.take();
+    }
+
+    QList<bool> rowsWithReminder() const
+    {
+        QList<bool> rows;
+        for (int row = 0; row < m_guide->programmes()->rowCount(); ++row)
+            rows.append(m_guide->programmes()
+                                ->index(row, 0)
+                                .data(GuideProgrammeModel::HasReminderRole)
+                                .toBool());
+        return rows;
+    }
+
+    void aReminderIsThereInAnotherLanguageAndCanBeTakenAwayThere()
+    {
+        m_guide->setGuide(together({ "News" }));
+        press({ Qt::Key_Down, Qt::Key_Return });
+        QVERIFY(hasReminder());
+        start();
+        m_guide->setGuide(together({ "Nachrichten" }));
+        QCOMPARE(rowsWithReminder(), (QList<bool> { false, true }));
+        press({ Qt::Key_Home, Qt::Key_Down, Qt::Key_Return });
+        QCOMPARE(rowsWithReminder(), (QList<bool> { false, false }));
+        QCOMPARE(m_reminders->count(), 0);
+    }
+
+    void ofProgrammesThatStartTogetherTheTitleDecides()
+    {
+        QVERIFY(m_reminders->add("a", guides::at(20, 30), "Two"));
+        m_guide->setGuide(together({ "One", "Two", "Three" }));
+        QCOMPARE(rowsWithReminder(), (QList<bool> { false, false, true, false }));
+        m_guide->setGuide(together({ "One", "New", "Three" }));
+        QCOMPARE(rowsWithReminder(), (QList<bool> { false, true, false, false }));
+        QVERIFY(m_reminders->add("a", guides::at(20, 30), "Three"));
+        QCOMPARE(rowsWithReminder(), (QList<bool> { false, true, false, true }));
+        press({ Qt::Key_Home, Qt::Key_Down, Qt::Key_Return });
+        QCOMPARE(rowsWithReminder(), (QList<bool> { false, false, false, true }));
+    }
+
+    void aReminderOfALongTitleIsFound()
+    {
+        const QString title(2 * Reminders::longestText, u'x');
+        m_guide->setGuide(together({ "One", title }));
+        press({ Qt::Key_End, Qt::Key_Return });
+        QCOMPARE(rowsWithReminder(), (QList<bool> { false, false, true }));
+    }
+
     void aReminderBelongsToItsChannelAndProgramme()
     {
         press({ Qt::Key_Down, Qt::Key_Return, Qt::Key_Down });
