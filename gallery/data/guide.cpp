@@ -120,11 +120,16 @@ double TimeSpan::progressAt(qint64 time) const
 
 int Guide::firstChannelOnAir(qint64 time) const
 {
+    int first = -1;
     for (int channel = 0; channel < channelCount(); ++channel) {
+        if (this->channel(channel).locked)
+            continue;
         if (programmeAt(channel, time) >= 0)
             return channel;
+        if (first < 0)
+            first = channel;
     }
-    return isEmpty() ? -1 : 0;
+    return first;
 }
 
 int Guide::programmeAt(int channel, qint64 time) const

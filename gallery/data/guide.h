@@ -108,7 +108,10 @@ public:
         together the first. -1 when none is on.
     */
     int programmeAt(int channel, qint64 time) const;
-    /*! The first channel that has a programme on at \a time, else the first of all; -1 without channels. */
+    /*!
+        The first channel that is not locked and has a programme on at \a time, else the first that is not locked; -1
+        when all are, or there is none.
+    */
     int firstChannelOnAir(qint64 time) const;
     /*! The first programme that starts after \a time, or -1. */
     int nextProgramme(int channel, qint64 time) const;

@@ -18,6 +18,7 @@ ListView {
         required property string name
         required property string number
         required property string nowTitle
+        required property bool locked
 
         objectName: "channel"
         width: ListView.view.width
@@ -53,8 +54,8 @@ ListView {
         Column {
             anchors.left: numberLabel.right
             anchors.leftMargin: Look.wide ? Look.small : 0
-            anchors.right: parent.right
-            anchors.rightMargin: Look.medium
+            anchors.right: lock.left
+            anchors.rightMargin: lock.width > 0 ? Look.small : 0
             anchors.verticalCenter: parent.verticalCenter
 
             Label {
@@ -69,6 +70,18 @@ ListView {
                 font: Look.caption
                 color: Look.quietText
             }
+        }
+        Image {
+            id: lock
+
+            objectName: "lock"
+            anchors.right: parent.right
+            anchors.rightMargin: Look.medium
+            anchors.verticalCenter: parent.verticalCenter
+            width: row.locked ? Math.round(20 * Look.unit) : 0
+            height: width
+            visible: row.locked
+            source: row.locked ? "qrc:/resources/icons/lock_icon_white.png" : ""
         }
     }
 

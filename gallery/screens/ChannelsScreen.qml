@@ -118,15 +118,15 @@ FocusScope {
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
-            visible: screen.channels.refused
-            text: qsTr("This channel is locked")
+            visible: text.length > 0
+            text: screen.channels.message
             font: Look.hint
         }
         Row {
             id: hints
 
             anchors.right: parent.right
-            visible: !screen.channels.refused
+            visible: screen.channels.message.length === 0
             spacing: Look.large
 
             KeyHint {

@@ -119,7 +119,7 @@ FocusScope {
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
-            text: screen.guide.message
+            text: screen.guide.notice.length > 0 ? screen.guide.notice : screen.guide.message
             font: Look.hint
             // The place of an error stands behind the name of its file.
             elide: Text.ElideMiddle
@@ -129,7 +129,7 @@ FocusScope {
             id: hints
 
             anchors.right: parent.right
-            visible: screen.guide.message.length === 0
+            visible: screen.guide.message.length === 0 && screen.guide.notice.length === 0
             spacing: Look.large
 
             KeyHint {

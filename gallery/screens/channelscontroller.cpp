@@ -61,7 +61,8 @@ void ChannelsController::setGuide(const Guide &guide)
     const QStringList groups = groupsOf(guide);
     const bool otherGroups = groups != m_groups;
     m_groups = groups;
-    if (guide.channelIndex(m_playingId) < 0) {
+    const int playing = guide.channelIndex(m_playingId);
+    if (playing < 0 || guide.channel(playing).locked) {
         const int first = guide.firstChannelOnAir(m_clock->now().toSecsSinceEpoch());
         m_playingId = first < 0 ? QString() : guide.channel(first).id;
     }
@@ -78,7 +79,7 @@ void ChannelsController::setGuide(const Guide &guide)
 void ChannelsController::start()
 {
     setTypedNumber({});
-    setRefused(false);
+    setMessage({});
     m_chosenId = m_playingId;
     show(guide(), {});
 }
@@ -97,7 +98,7 @@ void ChannelsController::show(const Guide &guide, const QString &group)
 
 void ChannelsController::setPlaying(int channel)
 {
-    if (channel < 0 || channel >= guide().channelCount())
+    if (channel < 0 || channel >= guide().channelCount() || guide().channel(channel).locked)
         return;
     m_playingId = guide().channel(channel).id;
     m_channels.setPlaying(channel);
@@ -127,7 +128,7 @@ void ChannelsController::setMirrored(bool mirrored)
 
 bool ChannelsController::press(int key)
 {
-    setRefused(false);
+    setMessage({});
     if (key >= Qt::Key_0 && key <= Qt::Key_9) {
         typeDigit(key - Qt::Key_0);
         return true;
@@ -230,7 +231,7 @@ void ChannelsController::play()
     if (m_row < 0)
         return;
     if (guide().channel(channel()).locked) {
-        setRefused(true);
+        setMessage(lockedText());
         return;
     }
     setPlaying(channel());
@@ -246,12 +247,12 @@ void ChannelsController::setTypedNumber(const QString &number)
     Q_EMIT typedNumberChanged();
 }
 
-void ChannelsController::setRefused(bool refused)
+void ChannelsController::setMessage(const QString &message)
 {
-    if (refused == m_refused)
+    if (message == m_message)
         return;
-    m_refused = refused;
-    Q_EMIT refusedChanged();
+    m_message = message;
+    Q_EMIT messageChanged();
 }
 
 void ChannelsController::updateProgramme()

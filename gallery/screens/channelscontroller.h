@@ -45,8 +45,8 @@ class ChannelsController : public QObject
 
     /*! The digits of a channel's number that were pressed so far; empty two seconds after the last one. */
     Q_PROPERTY(QString typedNumber READ typedNumber NOTIFY typedNumberChanged)
-    /*! The channel cannot be played because it is locked; until the next key. */
-    Q_PROPERTY(bool refused READ isRefused NOTIFY refusedChanged)
+    /*! What is told until the next key: that the channel cannot be played because it is locked; else empty. */
+    Q_PROPERTY(QString message READ message NOTIFY messageChanged)
 
     /*! How many rows a page key moves by, at least 1; the view knows how many it shows. */
     Q_PROPERTY(int rowsPerPage READ rowsPerPage WRITE setRowsPerPage NOTIFY rowsPerPageChanged)
@@ -61,20 +61,21 @@ public:
     /*!
         Shows the channels of \a guide. The chosen channel and the one that plays stay when the guide still has them; else
         the channel in the same row is chosen. So does the group, unless the chosen channel is in another one now. At
-        first, and when it has gone, the first channel that has something on plays.
+        first, and when the one that plays has gone or is locked, the first channel that has something on and is not
+        locked plays.
     */
     void setGuide(const Guide &guide);
     Guide guide() const { return m_channels.guide(); }
     /*! As at the start: all channels, and the one that plays is chosen. */
     void start();
-    /*! The channel with this index in the guide plays; one that does not exist changes nothing. */
+    /*! The channel with this index in the guide plays; one that does not exist or is locked changes nothing. */
     void setPlaying(int channel);
 
     QAbstractItemModel *channels() { return &m_channels; }
     int channelRow() const { return m_row; }
     /*! Index of the chosen channel in the guide; -1 without channels. */
     int channel() const { return m_channels.channelAt(m_row); }
-    /*! Index in the guide of the channel that plays; -1 without channels. */
+    /*! Index in the guide of the channel that plays, which is not locked; -1 without one. */
     int playing() const { return guide().channelIndex(m_playingId); }
     QStringList groups() const { return m_groups; }
     int groupIndex() const { return std::max(0, int(m_groups.indexOf(m_group))); }
@@ -88,7 +89,7 @@ public:
     QString nextTime() const { return m_next.start.toString(QStringLiteral("HH:mm")); }
 
     QString typedNumber() const { return m_typedNumber; }
-    bool isRefused() const { return m_refused; }
+    QString message() const { return m_message; }
     int rowsPerPage() const { return m_rowsPerPage; }
     void setRowsPerPage(int rows);
     bool isMirrored() const { return m_mirrored; }
@@ -112,7 +113,7 @@ Q_SIGNALS:
     void groupsChanged();
     void programmeChanged();
     void typedNumberChanged();
-    void refusedChanged();
+    void messageChanged();
     void rowsPerPageChanged();
     void mirroredChanged();
     /*! The channel with this index in the guide is to be played; it is marked as playing. */
@@ -129,7 +130,7 @@ private:
     void play();
     void typeDigit(int digit);
     void setTypedNumber(const QString &number);
-    void setRefused(bool refused);
+    void setMessage(const QString &message);
     void updateProgramme();
     void tick();
 
@@ -142,10 +143,10 @@ private:
     MediaItem m_programme;
     MediaItem m_next;
     QString m_typedNumber;
+    QString m_message;
     QTimer m_typing;
     int m_row = -1;
     int m_rowsPerPage = 1;
-    bool m_refused = false;
     bool m_mirrored = false;
 };
 

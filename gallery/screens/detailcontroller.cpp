@@ -24,6 +24,7 @@ void DetailController::show(const MediaItem &item)
 {
     m_item = item;
     m_button = PlayButton;
+    m_refused = false;
     setOpening(NoButton, false);
     Q_EMIT itemChanged();
     Q_EMIT marksChanged();
@@ -50,7 +51,22 @@ bool DetailController::isLiked() const
 
 QString DetailController::message() const
 {
+    if (m_refused)
+        return lockedText();
     return m_opened ? noPlayerText() : QString();
+}
+
+void DetailController::refuse()
+{
+    setRefused(true);
+}
+
+void DetailController::setRefused(bool refused)
+{
+    if (refused == m_refused)
+        return;
+    m_refused = refused;
+    Q_EMIT openingChanged();
 }
 
 void DetailController::setMirrored(bool mirrored)
@@ -69,6 +85,7 @@ QList<DetailController::Button> DetailController::buttons() const
 
 bool DetailController::press(int key)
 {
+    setRefused(false);
     if (isBackKey(key)) {
         if (m_opening == NoButton)
             Q_EMIT backRequested();

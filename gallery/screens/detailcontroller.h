@@ -94,6 +94,9 @@ public:
     bool isMirrored() const { return m_mirrored; }
     void setMirrored(bool mirrored);
 
+    /*! Tells why the channel that was to be watched is not: it is locked. Until the next key. */
+    void refuse();
+
     /*! The buttons that there are for the item, in reading order. */
     QList<Button> buttons() const;
 
@@ -125,6 +128,7 @@ private:
     void play();
     void choose(int index);
     void setOpening(Button button, bool opened);
+    void setRefused(bool refused);
 
     Marks *m_favourites;
     Marks *m_likes;
@@ -133,6 +137,7 @@ private:
     Button m_button = PlayButton;
     Button m_opening = NoButton;
     bool m_opened = false;
+    bool m_refused = false;
     bool m_mirrored = false;
 };
 

@@ -53,11 +53,13 @@ void GuideController::setGuide(const Guide &guide)
 
 void GuideController::start()
 {
+    setNotice({});
     setDetailsOpen(false);
     m_channels.setNow(m_clock->now());
     m_programmes.setNow(m_clock->now());
     m_days.setToday(m_clock->now().date());
-    m_channelRow = shownGuide().firstChannelOnAir(m_clock->now().toSecsSinceEpoch());
+    const int onAir = shownGuide().firstChannelOnAir(m_clock->now().toSecsSinceEpoch());
+    m_channelRow = std::max(onAir, shownGuide().isEmpty() ? -1 : 0);
     m_programmes.select(m_channelRow, m_clock->now().date());
     chooseNow();
 }
@@ -274,6 +276,14 @@ void GuideController::setDetailsOpen(bool open)
         return;
     m_detailsOpen = open;
     Q_EMIT detailsOpenChanged();
+}
+
+void GuideController::setNotice(const QString &notice)
+{
+    if (notice == m_notice)
+        return;
+    m_notice = notice;
+    Q_EMIT noticeChanged();
 }
 
 void GuideController::tick()

@@ -69,6 +69,9 @@ class GuideController : public QObject
     /*! What was wrong with the file of the guide or of the reminders; empty when nothing was. */
     Q_PROPERTY(QString message READ message NOTIFY messageChanged)
 
+    /*! What is told until the next key: that the channel is not played because it is locked; else empty. */
+    Q_PROPERTY(QString notice READ notice NOTIFY noticeChanged)
+
     /*! How many rows a page key moves by, at least 1; the view knows how many it shows. */
     Q_PROPERTY(int rowsPerPage READ rowsPerPage WRITE setRowsPerPage NOTIFY rowsPerPageChanged)
     /*! Whether the screen is laid out from right to left: the next channel is on the left then. */
@@ -90,7 +93,7 @@ public:
     Guide shownGuide() const { return m_channels.guide(); }
     /*! Where reminders are kept; null (the default): none can be set. Not owned. */
     void setReminders(Reminders *reminders);
-    /*! As at the start: the first channel that has something on now, and the programme that is on. */
+    /*! As at the start: the first channel that is not locked and has something on now, and the programme that is on. */
     void start();
     /*! What the last reading gave. */
     GuideReport report() const { return m_loader.report(); }
@@ -127,6 +130,7 @@ public:
     bool isLoading() const { return m_loader.isLoading(); }
     double loadProgress() const { return m_loader.progress(); }
     QString message() const;
+    QString notice() const { return m_notice; }
 
     int rowsPerPage() const { return m_rowsPerPage; }
     void setRowsPerPage(int rows);
@@ -144,7 +148,8 @@ public:
 
         Return sets or deletes the reminder of a programme that is to come and shows the details of any other; there it
         plays the channel of one that is on, and hides the details. Info shows and hides the details of any programme.
-        Play plays the channel of one that is on. Back hides the details, else returns to what is on now, else asks to
+        Play plays the channel of one that is on. A channel that is locked is not played: a notice says so, and the
+        details stay. Back hides the details, else returns to what is on now, else asks to
         leave.
     */
     Q_INVOKABLE bool press(int key);
@@ -157,6 +162,7 @@ Q_SIGNALS:
     void loadingChanged();
     void loadProgressChanged();
     void messageChanged();
+    void noticeChanged();
     void rowsPerPageChanged();
     /*! A guide is there to be shown, be it an empty one. */
     void guideShown();
@@ -193,6 +199,7 @@ private:
     void goBack();
     void setInDays(bool inDays);
     void setDetailsOpen(bool open);
+    void setNotice(const QString &notice);
     Kept kept() const;
     void restore(const Guide &guide, const Kept &kept);
     int rowOf(const Kept &kept) const;
@@ -209,6 +216,7 @@ private:
     QPointer<Reminders> m_reminders;
     QDateTime m_anchor; // the time that a change of channel keeps
     QTime m_timeOfDay; // of the anchor; a day on which the clocks change does not change it
+    QString m_notice;
     int m_channelRow = -1;
     int m_programmeRow = -1;
     int m_rowsPerPage = 1;

@@ -3,12 +3,14 @@
 #include "screens/guidecontroller.h"
 
 #include "gallery/data/clock.h"
+#include "screens/mediaitem.h"
 #include "screens/remotekey.h"
 
 namespace gallery {
 
 bool GuideController::press(int key)
 {
+    setNotice({});
     if (isSelectKey(key))
         select();
     else if (isBackKey(key))
@@ -108,8 +110,9 @@ void GuideController::select()
     if (m_inDays) {
         setInDays(false);
     } else if (m_detailsOpen) {
-        setDetailsOpen(false);
         play();
+        if (m_notice.isEmpty())
+            setDetailsOpen(false);
     } else if (!isFuture() || !m_programmes.toggleReminder(m_programmeRow)) {
         setDetailsOpen(true);
     }
@@ -117,7 +120,11 @@ void GuideController::select()
 
 void GuideController::play()
 {
-    if (isLive())
+    if (!isLive())
+        return;
+    if (m_programmes.isLocked())
+        setNotice(lockedText());
+    else
         Q_EMIT playRequested(m_channelRow);
 }
 

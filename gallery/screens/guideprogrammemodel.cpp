@@ -65,6 +65,8 @@ QString GuideProgrammeModel::shownTitle(int programme) const
 
 QVariant GuideProgrammeModel::data(const QModelIndex &index, int role) const
 {
+    if (role == IsPlayableRole && isLocked())
+        return false;
     if (role != HasReminderRole || !checkIndex(index, CheckIndexOption::IndexIsValid))
         return ProgrammeModel::data(index, role);
     return !remindersOf(index.row()).isEmpty();
@@ -75,6 +77,11 @@ QHash<int, QByteArray> GuideProgrammeModel::roleNames() const
     QHash<int, QByteArray> names = ProgrammeModel::roleNames();
     names.insert(HasReminderRole, "hasReminder");
     return names;
+}
+
+bool GuideProgrammeModel::isLocked() const
+{
+    return channel() >= 0 && channel() < guide().channelCount() && guide().channel(channel()).locked;
 }
 
 QString GuideProgrammeModel::channelId() const

@@ -12,7 +12,7 @@ namespace gallery {
 /*!
     A channel's programmes of one day, each with whether the viewer wants to be reminded of it. A reminder belongs to
     what starts on its channel at its time; of several programmes to that of its title, else to the first. So it is
-    found again in another language, and when a programme gets a new title.
+    found again in another language, and when a programme gets a new title. Of a channel that is locked nothing is playable.
 */
 class GuideProgrammeModel : public ProgrammeModel
 {
@@ -29,6 +29,8 @@ public:
     void setReminders(Reminders *reminders);
     /*! Sets a reminder of the programme in \a row, or takes it away; false when neither is possible. */
     bool toggleReminder(int row);
+    /*! Whether the channel is locked. */
+    bool isLocked() const;
 
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;

@@ -167,6 +167,11 @@ QString noPlayerText()
     return QCoreApplication::translate("MediaItem", "There is no film to play in this gallery.");
 }
 
+QString lockedText()
+{
+    return QCoreApplication::translate("MediaItem", "This channel is locked");
+}
+
 QString timeLeft(const MediaItem &item)
 {
     if (item.position <= 0 || item.position >= item.duration)

@@ -77,6 +77,8 @@ bool isViewed(const MediaItem &item);
 bool isToCome(const MediaItem &item, QDate today);
 /*! What is told where something would be played. */
 QString noPlayerText();
+/*! What is told where a channel that is locked would be played. */
+QString lockedText();
 /*! "12 min left", or nothing when \a item is not begun or its length is not known. */
 QString timeLeft(const MediaItem &item);
 

@@ -73,7 +73,9 @@ void PlayerController::findChannelAgain()
         m_channelRow = same;
         return;
     }
-    m_channelRow = std::clamp(m_channelRow, 0, m_guide.channelCount() - 1);
+    const int near = std::clamp(m_channelRow, 0, m_guide.channelCount() - 1);
+    const int unlocked = unlockedFrom(near, 1);
+    m_channelRow = unlocked >= 0 ? unlocked : near;
     m_channelId = channel().id;
     m_behind = 0;
     m_paused = false;
@@ -81,7 +83,7 @@ void PlayerController::findChannelAgain()
 
 bool PlayerController::play(int channelRow)
 {
-    if (channelRow < 0 || channelRow >= m_guide.channelCount())
+    if (channelRow < 0 || channelRow >= m_guide.channelCount() || m_guide.channel(channelRow).locked)
         return false;
     watch(channelRow);
     watchLive();
@@ -275,15 +277,25 @@ void PlayerController::zap(int step)
         m_button = PauseButton;
         m_area = Programmes;
     }
-    const int count = m_guide.channelCount();
-    const int next = m_channelRow < 0 || count == 0 ? std::min(0, count - 1)
-                                                    : (m_channelRow + step + count) % count;
-    if (next != m_channelRow) {
+    const int next = unlockedFrom(m_channelRow < 0 ? 0 : m_channelRow + step, step);
+    if (next >= 0 && next != m_channelRow) {
         watch(next);
         watchLive();
     }
     m_programmeRow = m_programmes.nearestRow(m_anchor.value_or(now()));
     finishSelection();
+}
+
+// The first channel that is not locked, from \a channelRow on in steps of \a step; -1 when all are, or without any.
+int PlayerController::unlockedFrom(int channelRow, int step) const
+{
+    const int count = m_guide.channelCount();
+    for (int i = 0; i < count; ++i) {
+        const int row = ((channelRow + i * step) % count + count) % count;
+        if (!m_guide.channel(row).locked)
+            return row;
+    }
+    return -1;
 }
 
 void PlayerController::watch(int channelRow)

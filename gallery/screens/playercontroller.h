@@ -29,7 +29,10 @@ class PlayerController : public QObject
     /*! Empty without a channel. */
     Q_PROPERTY(QString channelName READ channelName NOTIFY channelChanged)
     Q_PROPERTY(QString channelNumber READ channelNumber NOTIFY channelChanged)
-    /*! Its programmes can be looked at, but there is no picture. */
+    /*!
+        Only of a channel that got locked while it was watched, or when all are: its programmes can be looked at, but
+        there is no picture.
+    */
     Q_PROPERTY(bool locked READ isLocked NOTIFY channelChanged)
 
     /*! The programme that is watched; empty when the channel has none at that moment. */
@@ -80,10 +83,14 @@ public:
 
     /*!
         Takes \a guide in place of the one before. The channel that is watched stays if the guide still has it, at
-        the moment that is watched, and so does the chosen programme; what is gone is replaced by its neighbour.
+        the moment that is watched, and so does the chosen programme; what is gone is replaced by its neighbour, a
+        channel by the next one that is not locked.
     */
     void setGuide(const Guide &guide);
-    /*! Watches the channel \a channelRow live, and shows the overlay; false when the guide has no such channel. */
+    /*!
+        Watches the channel \a channelRow live, and shows the overlay. False, and nothing changes, when the guide has no
+        such channel or it is locked.
+    */
     bool play(int channelRow);
     int channelRow() const { return m_channelRow; }
     QString channelName() const { return channel().name; }
@@ -118,7 +125,7 @@ public:
         Handles a remote key; false when it means nothing here.
 
         The keys for channels, and Page Up and Page Down where a remote has none, watch the next or the previous
-        channel; after the last comes the first. Back hides the overlay, else asks to leave.
+        channel that is not locked; after the last comes the first. Back hides the overlay, else asks to leave.
 
         While only the picture is seen, Return shows the buttons and any arrow the programmes; Up and Down go to
         another channel as well. On the programmes, Left, Right, Home and End choose one, Up and Down go to another
@@ -154,6 +161,7 @@ private:
     bool pressOnButtons(int key);
     void activate();
     void zap(int step);
+    int unlockedFrom(int channelRow, int step) const;
     void watch(int channelRow);
     void watchLive();
     void setPlaying(qint64 behind, bool paused);

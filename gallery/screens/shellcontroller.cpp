@@ -145,7 +145,11 @@ void ShellController::openEpisodes()
 
 void ShellController::watchItem()
 {
-    openPlayer(m_guide.shownGuide().channelIndex(m_detail.item().channelId));
+    const int channel = m_guide.shownGuide().channelIndex(m_detail.item().channelId);
+    if (channel >= 0 && m_guide.shownGuide().channel(channel).locked)
+        m_detail.refuse();
+    else
+        openPlayer(channel);
 }
 
 } // namespace gallery

@@ -60,7 +60,7 @@ public:
     /*!
         Starts anew on \a screen, as if no key had been pressed. The detail page shows the first item of the
         catalogue, or of what is on TV, the episodes are those of the first series, and the player plays the channel
-        that the guide starts with; without any of them the home screen is shown in its place.
+        that the guide starts with; without any of them, or when that is locked, the home screen is shown in its place.
     */
     void start(const QString &screen);
     /*! Shows the films and series of \a catalogue. */
@@ -69,7 +69,7 @@ public:
     void goBack();
 
 public Q_SLOTS:
-    /*! Plays the channel \a channelRow of the guide that is shown; nothing happens when there is none. */
+    /*! Plays the channel \a channelRow of the guide that is shown, if there is one and it is not locked. */
     void openPlayer(int channelRow);
 
 Q_SIGNALS:

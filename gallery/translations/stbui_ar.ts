@@ -19,10 +19,6 @@
         <translation>لا توجد قنوات</translation>
     </message>
     <message>
-        <source>This channel is locked</source>
-        <translation>هذه القناة مقفلة</translation>
-    </message>
-    <message>
         <source>Group</source>
         <translation>المجموعة</translation>
     </message>
@@ -246,6 +242,10 @@
     <message>
         <source>There is no film to play in this gallery.</source>
         <translation>لا يوجد في هذا المعرض فيلم لتشغيله.</translation>
+    </message>
+    <message>
+        <source>This channel is locked</source>
+        <translation>هذه القناة مقفلة</translation>
     </message>
 </context>
 <context>

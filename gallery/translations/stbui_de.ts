@@ -19,10 +19,6 @@
         <translation>Es gibt keine Sender</translation>
     </message>
     <message>
-        <source>This channel is locked</source>
-        <translation>Dieser Sender ist gesperrt</translation>
-    </message>
-    <message>
         <source>Group</source>
         <translation>Gruppe</translation>
     </message>
@@ -246,6 +242,10 @@
     <message>
         <source>There is no film to play in this gallery.</source>
         <translation>In dieser Galerie gibt es keinen Film zum Abspielen.</translation>
+    </message>
+    <message>
+        <source>This channel is locked</source>
+        <translation>Dieser Sender ist gesperrt</translation>
     </message>
 </context>
 <context>

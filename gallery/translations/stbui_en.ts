@@ -19,10 +19,6 @@
         <translation>There are no channels</translation>
     </message>
     <message>
-        <source>This channel is locked</source>
-        <translation>This channel is locked</translation>
-    </message>
-    <message>
         <source>Group</source>
         <translation>Group</translation>
     </message>
@@ -246,6 +242,10 @@
     <message>
         <source>There is no film to play in this gallery.</source>
         <translation>There is no film to play in this gallery.</translation>
+    </message>
+    <message>
+        <source>This channel is locked</source>
+        <translation>This channel is locked</translation>
     </message>
 </context>
 <context>

@@ -19,10 +19,6 @@
         <translation>Каналов нет</translation>
     </message>
     <message>
-        <source>This channel is locked</source>
-        <translation>Этот канал заблокирован</translation>
-    </message>
-    <message>
         <source>Group</source>
         <translation>Группа</translation>
     </message>
@@ -246,6 +242,10 @@
     <message>
         <source>There is no film to play in this gallery.</source>
         <translation>В этой галерее нет фильма, который можно показать.</translation>
+    </message>
+    <message>
+        <source>This channel is locked</source>
+        <translation>Этот канал заблокирован</translation>
     </message>
 </context>
 <context>

@@ -356,8 +356,9 @@ private Q_SLOTS:
         QVERIFY(m->player.isPaused());
     }
 
-    void aLockedChannelHasProgrammesButNoPicture()
+    void aChannelThatGetsLockedHasProgrammesButNoPicture()
     {
+        QVERIFY(m->player.play(0));
         gallery::GuideBuilder builder;
         gallery::Channel channel;
         channel.id = "a";
@@ -366,7 +367,7 @@ private Q_SLOTS:
         guides::addChannel(builder, "a", guides::wholeDay("A", 30));
         guides::addChannel(builder, "b", guides::wholeDay("B", 30));
         m->player.setGuide(builder.take());
-        QVERIFY(m->player.play(0));
+        QVERIFY(!m->player.play(0));
         QVERIFY(m->player.isLocked());
         QCOMPARE(m->player.title(), "A40");
         QCOMPARE(m->player.picture(), QUrl());
