@@ -132,6 +132,15 @@ QVariant GuideController::chosen(ProgrammeModel::Role role) const
     return m_programmeRow < 0 ? QVariant() : m_programmes.data(m_programmes.index(m_programmeRow), role);
 }
 
+GuideController::PlayAction GuideController::playAction() const
+{
+    // Asked of the plain model: there the lock makes no difference.
+    const QModelIndex programme = m_programmes.index(m_programmeRow);
+    if (!m_programmes.ProgrammeModel::data(programme, ProgrammeModel::IsPlayableRole).toBool())
+        return NothingToPlay;
+    return isLive() ? PlayLive : PlayFromStart;
+}
+
 QString GuideController::timeRange() const
 {
     if (m_programmeRow < 0)

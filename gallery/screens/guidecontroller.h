@@ -52,6 +52,8 @@ class GuideController : public QObject
     Q_PROPERTY(bool live READ isLive NOTIFY nowChanged)
     /*! Whether the chosen programme is to come: OK sets or deletes a reminder then. */
     Q_PROPERTY(bool future READ isFuture NOTIFY nowChanged)
+    /*! What Play, and OK in the details, do with the chosen programme; a locked channel refuses it. */
+    Q_PROPERTY(PlayAction playAction READ playAction NOTIFY nowChanged)
     /*! How much of the chosen programme is over, 0 to 1. */
     Q_PROPERTY(double progress READ progress NOTIFY nowChanged)
 
@@ -79,6 +81,13 @@ class GuideController : public QObject
     QML_ELEMENT
     QML_UNCREATABLE("The application makes it.")
 public:
+    enum PlayAction {
+        NothingToPlay, /*!< it is to come, or was on more than a week ago */
+        PlayLive,
+        PlayFromStart /*!< it is over */
+    };
+    Q_ENUM(PlayAction)
+
     /*! \a clock tells the present and must outlive this object. */
     explicit GuideController(Clock *clock, QObject *parent = nullptr);
 
@@ -120,6 +129,7 @@ public:
     QString timeRange() const;
     bool isLive() const { return chosen(ProgrammeModel::IsLiveRole).toBool(); }
     bool isFuture() const { return chosen(ProgrammeModel::IsFutureRole).toBool(); }
+    PlayAction playAction() const;
     double progress() const { return chosen(ProgrammeModel::ProgressRole).toDouble(); }
 
     QString dayText() const;
@@ -147,8 +157,8 @@ public:
         day. A change of channel or day chooses what is on at the same time there, however many are passed.
 
         Return sets or deletes the reminder of a programme that is to come and shows the details of any other; there it
-        plays the channel of one that is on, and hides the details. Info shows and hides the details of any programme.
-        Play plays the channel of one that is on. A channel that is locked is not played: a notice says so, and the
+        plays the channel of one that is on, and one that is over from its start, and hides the details. Info shows and
+        hides the details of any programme. Play plays as Return in the details does. A channel that is locked is not played: a notice says so, and the
         details stay. Back hides the details, else returns to what is on now, else asks to
         leave.
     */
@@ -168,8 +178,8 @@ Q_SIGNALS:
     void guideShown();
     /*! Back was pressed where there is nothing to go back to. */
     void leaveRequested();
-    /*! The viewer wants to watch the channel in \a channelRow. */
-    void playRequested(int channelRow);
+    /*! The viewer wants to watch the channel in \a channelRow, live or from an earlier time \a from on. */
+    void playRequested(int channelRow, const QDateTime &from);
 
 private:
     // A programme, so that it is found again in another guide.

@@ -120,12 +120,15 @@ void GuideController::select()
 
 void GuideController::play()
 {
-    if (!isLive())
+    const PlayAction action = playAction();
+    if (action == NothingToPlay)
         return;
     if (m_programmes.isLocked())
         setNotice(lockedText());
     else
-        Q_EMIT playRequested(m_channelRow);
+        Q_EMIT playRequested(m_channelRow, action == PlayLive
+                                                   ? QDateTime()
+                                                   : chosen(ProgrammeModel::StartRole).toDateTime());
 }
 
 void GuideController::goUp()

@@ -81,12 +81,13 @@ void PlayerController::findChannelAgain()
     m_paused = false;
 }
 
-bool PlayerController::play(int channelRow)
+bool PlayerController::play(int channelRow, const QDateTime &from)
 {
     if (channelRow < 0 || channelRow >= m_guide.channelCount() || m_guide.channel(channelRow).locked)
         return false;
     watch(channelRow);
-    watchLive();
+    const qint64 behind = from.isValid() ? now() - from.toSecsSinceEpoch() : 0;
+    setPlaying(behind <= catchUpTime ? std::max<qint64>(behind, 0) : 0, false);
     chooseAnew();
     show(Programmes);
     waitForIdle();

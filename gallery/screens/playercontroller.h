@@ -88,10 +88,10 @@ public:
     */
     void setGuide(const Guide &guide);
     /*!
-        Watches the channel \a channelRow live, and shows the overlay. False, and nothing changes, when the guide has no
+        Watches the channel \a channelRow live, or from the time \a from in the past week on, and shows the overlay. False, and nothing changes, when the guide has no
         such channel or it is locked.
     */
-    bool play(int channelRow);
+    bool play(int channelRow, const QDateTime &from = {});
     int channelRow() const { return m_channelRow; }
     QString channelName() const { return channel().name; }
     QString channelNumber() const { return channel().number; }

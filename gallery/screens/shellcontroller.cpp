@@ -53,7 +53,8 @@ void ShellController::connectScreens()
     });
     connect(&m_guide, &GuideController::leaveRequested, this, &ShellController::goBack);
     connect(&m_guide, &GuideController::playRequested, this, &ShellController::openPlayer);
-    connect(&m_channels, &ChannelsController::playRequested, this, &ShellController::openPlayer);
+    connect(&m_channels, &ChannelsController::playRequested, this,
+            [this](int channelRow) { openPlayer(channelRow); });
     connect(&m_channels, &ChannelsController::leaveRequested, this, &ShellController::goBack);
     connect(&m_player, &PlayerController::channelChanged, this,
             [this] { m_channels.setPlaying(m_player.channelRow()); });
@@ -131,9 +132,9 @@ void ShellController::goBack()
     Q_EMIT screenChanged();
 }
 
-void ShellController::openPlayer(int channelRow)
+void ShellController::openPlayer(int channelRow, const QDateTime &from)
 {
-    if (m_player.play(channelRow))
+    if (m_player.play(channelRow, from))
         open(playerScreen);
 }
 

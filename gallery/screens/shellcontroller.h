@@ -69,8 +69,11 @@ public:
     void goBack();
 
 public Q_SLOTS:
-    /*! Plays the channel \a channelRow of the guide that is shown, if there is one and it is not locked. */
-    void openPlayer(int channelRow);
+    /*!
+        Plays the channel \a channelRow of the guide that is shown, live or from the time \a from on, if there is such a
+        channel and it is not locked.
+    */
+    void openPlayer(int channelRow, const QDateTime &from = {});
 
 Q_SIGNALS:
     void screenChanged();

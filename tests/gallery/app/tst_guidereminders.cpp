@@ -111,10 +111,8 @@ private Q_SLOTS:
     {
         QList<bool> rows;
         for (int row = 0; row < m_guide->programmes()->rowCount(); ++row)
-            rows.append(m_guide->programmes()
-                                ->index(row, 0)
-                                .data(GuideProgrammeModel::HasReminderRole)
-                                .toBool());
+            rows.append(
+                    m_guide->programmes()->index(row, 0).data(GuideProgrammeModel::HasReminderRole).toBool());
         return rows;
     }
 
@@ -229,10 +227,49 @@ private Q_SLOTS:
     void whatIsNotOnIsNotPlayed()
     {
         QSignalSpy plays(m_guide.get(), &GuideController::playRequested);
-        press({ Qt::Key_Down, Qt::Key_Play, Qt::Key_Info, Qt::Key_Return });
-        press({ Qt::Key_Up, Qt::Key_Up, Qt::Key_Play, Qt::Key_Return, Qt::Key_Return });
+        press({ Qt::Key_Down });
+        QCOMPARE(m_guide->playAction(), GuideController::NothingToPlay);
+        press({ Qt::Key_Play, Qt::Key_Info, Qt::Key_Return });
         press({ Qt::Key_Right, Qt::Key_Right, Qt::Key_Play }); // a channel without programmes
+        QCOMPARE(m_guide->playAction(), GuideController::NothingToPlay);
         QCOMPARE(plays.count(), 0);
+    }
+
+    void whatIsOverIsPlayedFromItsStart()
+    {
+        QSignalSpy plays(m_guide.get(), &GuideController::playRequested);
+        QCOMPARE(m_guide->playAction(), GuideController::PlayLive);
+        press({ Qt::Key_Up });
+        QCOMPARE(m_guide->playAction(), GuideController::PlayFromStart);
+        press({ Qt::Key_Play });
+        QCOMPARE(plays.count(), 1);
+        QCOMPARE(plays.last().at(1).toDateTime(), guides::at(19, 30));
+        press({ Qt::Key_Return, Qt::Key_Return });
+        QCOMPARE(plays.count(), 2);
+        QCOMPARE(plays.last().at(0).toInt(), 0);
+        QVERIFY(!m_guide->isDetailsOpen());
+        press({ Qt::Key_Down, Qt::Key_Play });
+        QCOMPARE(plays.last().at(1).toDateTime(), QDateTime());
+    }
+
+    void whatIsOverForMoreThanAWeekIsNotPlayed()
+    {
+        QSignalSpy plays(m_guide.get(), &GuideController::playRequested);
+        gallery::GuideBuilder builder;
+        const QDateTime start = guides::at(20, 5).addDays(-7);
+        guides::addChannel(builder, "a",
+                           { { "Too old", start.addSecs(-60), start.addSecs(60) },
+                             { "Old", start.addSecs(60), start.addSecs(120) } });
+        m_guide->setGuide(builder.take());
+        press({ Qt::Key_Up, Qt::Key_Home, Qt::Key_Down, Qt::Key_Down });
+        QCOMPARE(m_guide->title(), "Old");
+        press({ Qt::Key_Play });
+        QCOMPARE(plays.count(), 1);
+        press({ Qt::Key_Up });
+        QCOMPARE(m_guide->title(), "Too old");
+        press({ Qt::Key_Play });
+        QCOMPARE(m_guide->playAction(), GuideController::NothingToPlay);
+        QCOMPARE(plays.count(), 1);
     }
 
     void aProgrammeThatBeginsIsNoLongerToCome()

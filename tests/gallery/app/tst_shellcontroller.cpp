@@ -98,6 +98,32 @@ private Q_SLOTS:
         QCOMPARE(m->screen(), "guide");
     }
 
+    void whatIsOverIsPlayedFromItsStartOutOfTheGuide()
+    {
+        fill();
+        m->start("guide");
+        for (const Qt::Key key : { Qt::Key_Up, Qt::Key_Up, Qt::Key_Return, Qt::Key_Return })
+            m->guide()->press(key);
+        QCOMPARE(m->screen(), "player");
+        QCOMPARE(m->player()->title(), "A38");
+        QCOMPARE(m->player()->progress(), 0.0);
+        QVERIFY(!m->player()->isLive());
+        m->clock()->setFixed(guides::at(20, 20));
+        QCOMPARE(m->player()->title(), "A38");
+        QCOMPARE(m->player()->progress(), 0.5);
+    }
+
+    void whatCannotBeCaughtUpAnyMoreIsWatchedLive()
+    {
+        fill();
+        QVERIFY(m->player()->play(0, guides::at(20, 5).addDays(-7).addSecs(-1)));
+        QVERIFY(m->player()->isLive());
+        QVERIFY(m->player()->play(0, guides::at(20, 6)));
+        QVERIFY(m->player()->isLive());
+        QVERIFY(m->player()->play(0, guides::at(20, 5).addDays(-7)));
+        QVERIFY(!m->player()->isLive());
+    }
+
     void theChannelThatIsWatchedIsMarkedAmongTheChannels()
     {
         fill();
