@@ -64,6 +64,16 @@ void GuideController::start()
     chooseNow();
 }
 
+void GuideController::show(int channelRow)
+{
+    if (channelRow < 0 || channelRow >= m_channels.count())
+        return;
+    setDetailsOpen(false);
+    m_channelRow = channelRow;
+    m_programmes.select(channelRow, m_clock->now().date());
+    chooseNow();
+}
+
 GuideController::Kept GuideController::kept() const
 {
     if (m_channelRow < 0)

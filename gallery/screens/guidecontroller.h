@@ -104,6 +104,8 @@ public:
     void setReminders(Reminders *reminders);
     /*! As at the start: the first channel that is not locked and has something on now, and the programme that is on. */
     void start();
+    /*! Shows what is on now on the channel in \a channelRow; one that does not exist changes nothing. */
+    void show(int channelRow);
     /*! What the last reading gave. */
     GuideReport report() const { return m_loader.report(); }
     PlaylistReport playlistReport() const { return m_loader.playlistReport(); }

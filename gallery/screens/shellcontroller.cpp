@@ -58,7 +58,10 @@ void ShellController::connectScreens()
     connect(&m_channels, &ChannelsController::leaveRequested, this, &ShellController::goBack);
     connect(&m_player, &PlayerController::channelChanged, this,
             [this] { m_channels.setPlaying(m_player.channelRow()); });
-    connect(&m_player, &PlayerController::guideRequested, this, openGuide);
+    connect(&m_player, &PlayerController::guideRequested, this, [this] {
+        m_guide.show(m_player.channelRow());
+        open(guideScreen);
+    });
     connect(&m_player, &PlayerController::leaveRequested, this, &ShellController::goBack);
     connect(&m_series, &SeriesController::backRequested, this, &ShellController::goBack);
 }

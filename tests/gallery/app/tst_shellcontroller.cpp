@@ -98,6 +98,36 @@ private Q_SLOTS:
         QCOMPARE(m->screen(), "guide");
     }
 
+    void outOfThePlayerTheGuideShowsWhatIsOnOnItsChannel()
+    {
+        fill();
+        m->start("guide");
+        for (const Qt::Key key : { Qt::Key_Down, Qt::Key_Down, Qt::Key_MediaNext })
+            m->guide()->press(key);
+        m->openPlayer(3);
+        m->player()->press(Qt::Key_Return);
+        m->player()->press(Qt::Key_End);
+        QCOMPARE(m->player()->button(), gallery::PlayerController::GuideButton);
+        m->player()->press(Qt::Key_Return);
+        QCOMPARE(m->openScreens(), (QStringList { "home", "player", "guide" }));
+        QCOMPARE(m->guide()->channelName(), "Channel c");
+        QCOMPARE(m->guide()->title(), m->player()->title());
+        QVERIFY(m->guide()->isLive());
+        QVERIFY(!m->guide()->isInDays());
+        m->guide()->press(Qt::Key_Back);
+        QCOMPARE(m->screen(), "player");
+    }
+
+    void theGuideStaysAsItIsWithoutAChannelInThePlayer()
+    {
+        fill();
+        m->guide()->press(Qt::Key_Down);
+        m->guide()->show(-1);
+        m->guide()->show(5);
+        QCOMPARE(m->guide()->title(), "A41");
+        QCOMPARE(m->guide()->channelRow(), 0);
+    }
+
     void whatIsOverIsPlayedFromItsStartOutOfTheGuide()
     {
         fill();
