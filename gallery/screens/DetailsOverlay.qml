@@ -14,7 +14,8 @@ Item {
         opacity: 0.85
     }
     FocusPlate {
-        anchors.centerIn: parent
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: Math.round((footer.y - height) / 2)
         width: Math.min(Math.round(860 * Look.unit), parent.width - 2 * Look.safeX)
         height: card.height + 2 * Look.tiny
 
@@ -33,6 +34,52 @@ Item {
                 anchors.centerIn: parent
                 width: parent.width - 2 * Look.huge
                 guide: overlay.guide
+            }
+        }
+    }
+    Item {
+        id: footer
+
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: Look.safeY
+        anchors.left: parent.left
+        anchors.leftMargin: Look.safeX
+        anchors.right: parent.right
+        anchors.rightMargin: Look.safeX
+        height: hints.height
+
+        Label {
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            text: overlay.guide.notice
+            font: Look.hint
+        }
+        Row {
+            id: hints
+
+            objectName: "detailsHints"
+            anchors.right: parent.right
+            visible: overlay.guide.notice.length === 0
+            spacing: Look.large
+
+            KeyHint {
+                visible: Look.wide && (overlay.guide.leftChannelName + overlay.guide.rightChannelName).length > 0
+                key: "◀ ▶"
+                text: qsTr("Channel")
+            }
+            KeyHint {
+                key: "▲ ▼"
+                text: overlay.guide.detailsPages > 1 ? qsTr("Read on") : qsTr("Programme")
+            }
+            KeyHint {
+                visible: overlay.guide.playAction !== GuideController.NothingToPlay
+                key: qsTr("OK", "a key of the remote control")
+                text: overlay.guide.playAction === GuideController.PlayLive ? qsTr("Watch") : qsTr("From the start")
+            }
+            KeyHint {
+                key: qsTr("BACK", "a key of the remote control")
+                text: qsTr("Close")
             }
         }
     }

@@ -129,7 +129,7 @@ FocusScope {
             id: hints
 
             anchors.right: parent.right
-            visible: screen.guide.message.length === 0 && screen.guide.notice.length === 0
+            visible: screen.guide.message.length === 0 && screen.guide.notice.length === 0 && !screen.guide.detailsOpen
             spacing: Look.large
 
             KeyHint {
@@ -154,7 +154,7 @@ FocusScope {
             }
             KeyHint {
                 key: qsTr("BACK", "a key of the remote control")
-                text: qsTr("On now")
+                text: screen.guide.backAction === GuideController.ShowNow ? qsTr("On now") : qsTr("Leave")
             }
         }
     }

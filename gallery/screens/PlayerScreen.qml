@@ -111,6 +111,12 @@ FocusScope {
             spacing: Look.large
 
             KeyHint {
+                visible: screen.onButtons || screen.player.programmeRow >= 0
+                key: "◀ ▶"
+                text: screen.onButtons ? qsTr("Action") : qsTr("Programme")
+            }
+            KeyHint {
+                visible: screen.onButtons || screen.player.canZap
                 key: screen.onButtons ? "▲" : "▲ ▼"
                 text: screen.onButtons ? qsTr("Programmes") : qsTr("Channel")
             }
@@ -118,6 +124,10 @@ FocusScope {
                 visible: !screen.onButtons
                 key: qsTr("OK", "a key of the remote control")
                 text: qsTr("Actions")
+            }
+            KeyHint {
+                key: qsTr("BACK", "a key of the remote control")
+                text: qsTr("Hide")
             }
         }
         PlayerStatus {

@@ -74,8 +74,8 @@ FocusScope {
         objectName: "episodes"
         anchors.top: heading.bottom
         anchors.topMargin: Look.medium
-        anchors.bottom: parent.bottom
-        anchors.bottomMargin: Look.safeY
+        anchors.bottom: hints.top
+        anchors.bottomMargin: Look.small
         anchors.left: heading.left
         anchors.leftMargin: -Look.frame
         active: !screen.series.inSeasons
@@ -122,6 +122,34 @@ FocusScope {
             anchors.bottom: parent.bottom
             text: screen.series.message
             font: Look.caption
+        }
+    }
+    Row {
+        id: hints
+
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: Look.safeY
+        anchors.right: heading.right
+        spacing: Look.large
+
+        KeyHint {
+            visible: screen.series.inSeasons
+            key: "◀ ▶"
+            text: qsTr("Season")
+        }
+        KeyHint {
+            visible: screen.series.episodeRow >= 0
+            key: screen.series.inSeasons ? "▼" : "▲ ▼"
+            text: screen.series.inSeasons ? qsTr("Episodes") : qsTr("Episode")
+        }
+        KeyHint {
+            visible: screen.series.episodeRow >= 0 && !screen.series.inSeasons
+            key: qsTr("OK", "a key of the remote control")
+            text: qsTr("Watch")
+        }
+        KeyHint {
+            key: qsTr("BACK", "a key of the remote control")
+            text: qsTr("Leave")
         }
     }
 }

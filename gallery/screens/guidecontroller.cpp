@@ -207,6 +207,16 @@ void GuideController::setMirrored(bool mirrored)
     Q_EMIT selectionChanged();
 }
 
+void GuideController::setDetailsPages(int pages)
+{
+    pages = std::max(1, pages);
+    if (pages == m_detailsPages)
+        return;
+    m_detailsPages = pages;
+    m_detailsPage = std::min(m_detailsPage, pages - 1);
+    Q_EMIT detailsPageChanged();
+}
+
 void GuideController::chooseChannel(int row)
 {
     if (row < 0 || row >= m_channels.count() || row == m_channelRow)
@@ -242,6 +252,7 @@ void GuideController::chooseProgramme(int row)
     if (row == m_programmeRow || row < 0)
         return;
     m_programmeRow = row;
+    setDetailsPage(0);
     // A programme that began yesterday would lead to a time that this day's list does not have.
     const QDateTime dayStart = m_programmes.date().startOfDay();
     moveAnchor(isLive() ? m_clock->now() : std::max(chosen(ProgrammeModel::StartRole).toDateTime(), dayStart));
@@ -259,6 +270,7 @@ void GuideController::chooseNow()
 void GuideController::chooseAtAnchor()
 {
     m_programmeRow = m_programmes.nearestRow(m_anchor);
+    setDetailsPage(0);
     if (m_programmeRow < 0)
         setDetailsOpen(false);
     tellSelection();
@@ -273,6 +285,7 @@ void GuideController::moveAnchor(const QDateTime &time)
 void GuideController::tellSelection()
 {
     m_days.show(shownGuide(), m_channelRow);
+    updateBackAction();
     Q_EMIT selectionChanged();
     Q_EMIT nowChanged();
 }
@@ -285,6 +298,7 @@ void GuideController::setInDays(bool inDays)
     if (inDays)
         setDetailsOpen(false);
     m_inDays = inDays;
+    updateBackAction();
     Q_EMIT inDaysChanged();
 }
 
@@ -294,7 +308,35 @@ void GuideController::setDetailsOpen(bool open)
     if (open == m_detailsOpen)
         return;
     m_detailsOpen = open;
+    setDetailsPage(0);
+    updateBackAction();
     Q_EMIT detailsOpenChanged();
+}
+
+void GuideController::setDetailsPage(int page)
+{
+    if (page == m_detailsPage)
+        return;
+    m_detailsPage = page;
+    Q_EMIT detailsPageChanged();
+}
+
+GuideController::BackAction GuideController::nextBackAction() const
+{
+    const QDateTime now = m_clock->now();
+    if (m_detailsOpen)
+        return CloseDetails;
+    const bool isNow = !m_inDays && date() == now.date() && m_programmeRow == m_programmes.nearestRow(now);
+    return isNow ? Leave : ShowNow;
+}
+
+void GuideController::updateBackAction()
+{
+    const BackAction action = nextBackAction();
+    if (action == m_backAction)
+        return;
+    m_backAction = action;
+    Q_EMIT backActionChanged();
 }
 
 void GuideController::setNotice(const QString &notice)
@@ -315,6 +357,7 @@ void GuideController::tick()
     // A time that was only made up must not cost the viewer's reminders.
     if (m_reminders != nullptr && !m_clock->isFixed())
         m_reminders->dropExpired(now);
+    updateBackAction();
     Q_EMIT nowChanged();
 }
 

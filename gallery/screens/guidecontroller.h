@@ -65,6 +65,14 @@ class GuideController : public QObject
     Q_PROPERTY(QString clockText READ clockText NOTIFY nowChanged)
 
     Q_PROPERTY(bool detailsOpen READ isDetailsOpen NOTIFY detailsOpenChanged)
+    /*!
+        How many pages the description of the chosen programme takes in the details, at least 1; the view knows. And
+        which one of them is shown, from 0.
+    */
+    Q_PROPERTY(int detailsPages READ detailsPages WRITE setDetailsPages NOTIFY detailsPageChanged)
+    Q_PROPERTY(int detailsPage READ detailsPage NOTIFY detailsPageChanged)
+    /*! What Back does. */
+    Q_PROPERTY(BackAction backAction READ backAction NOTIFY backActionChanged)
     Q_PROPERTY(bool loading READ isLoading NOTIFY loadingChanged)
     /*! How much of the guide's file is read, 0 to 1. */
     Q_PROPERTY(double loadProgress READ loadProgress NOTIFY loadProgressChanged)
@@ -87,6 +95,12 @@ public:
         PlayFromStart /*!< it is over */
     };
     Q_ENUM(PlayAction)
+    enum BackAction {
+        CloseDetails,
+        ShowNow, /*!< returns to what is on now */
+        Leave
+    };
+    Q_ENUM(BackAction)
 
     /*! \a clock tells the present and must outlive this object. */
     explicit GuideController(Clock *clock, QObject *parent = nullptr);
@@ -139,6 +153,10 @@ public:
     QString clockText() const;
 
     bool isDetailsOpen() const { return m_detailsOpen; }
+    int detailsPages() const { return m_detailsPages; }
+    void setDetailsPages(int pages);
+    int detailsPage() const { return m_detailsPage; }
+    BackAction backAction() const { return m_backAction; }
     bool isLoading() const { return m_loader.isLoading(); }
     double loadProgress() const { return m_loader.progress(); }
     QString message() const;
@@ -160,7 +178,8 @@ public:
 
         Return sets or deletes the reminder of a programme that is to come and shows the details of any other; there it
         plays the channel of one that is on, and one that is over from its start, and hides the details. Info shows and
-        hides the details of any programme. Play plays as Return in the details does. A channel that is locked is not played: a notice says so, and the
+        hides the details of any programme; in them Up and Down turn the pages of the description before they choose
+        another programme. Play plays as Return in the details does. A channel that is locked is not played: a notice says so, and the
         details stay. Back hides the details, else returns to what is on now, else asks to
         leave.
     */
@@ -171,6 +190,8 @@ Q_SIGNALS:
     void nowChanged();
     void inDaysChanged();
     void detailsOpenChanged();
+    void detailsPageChanged();
+    void backActionChanged();
     void loadingChanged();
     void loadProgressChanged();
     void messageChanged();
@@ -211,7 +232,11 @@ private:
     void goBack();
     void setInDays(bool inDays);
     void setDetailsOpen(bool open);
+    bool turnPage(int step);
+    void setDetailsPage(int page);
     void setNotice(const QString &notice);
+    BackAction nextBackAction() const;
+    void updateBackAction();
     Kept kept() const;
     void restore(const Guide &guide, const Kept &kept);
     int rowOf(const Kept &kept) const;
@@ -232,6 +257,9 @@ private:
     int m_channelRow = -1;
     int m_programmeRow = -1;
     int m_rowsPerPage = 1;
+    int m_detailsPages = 1;
+    int m_detailsPage = 0;
+    BackAction m_backAction = Leave;
     bool m_mirrored = false;
     bool m_inDays = false;
     bool m_detailsOpen = false;

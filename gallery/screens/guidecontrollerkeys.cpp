@@ -79,10 +79,12 @@ bool GuideController::pressInProgrammes(int key)
 {
     switch (key) {
     case Qt::Key_Up:
-        goUp();
+        if (!turnPage(-1))
+            goUp();
         return true;
     case Qt::Key_Down:
-        chooseProgramme(m_programmeRow + 1);
+        if (!turnPage(1))
+            chooseProgramme(m_programmeRow + 1);
         return true;
     case Qt::Key_PageUp:
         chooseProgramme(m_programmeRow - m_rowsPerPage);
@@ -131,6 +133,16 @@ void GuideController::play()
                                                    : chosen(ProgrammeModel::StartRole).toDateTime());
 }
 
+// Shows another page of the details; false when there is none.
+bool GuideController::turnPage(int step)
+{
+    const int page = m_detailsPage + step;
+    if (!m_detailsOpen || page < 0 || page >= m_detailsPages)
+        return false;
+    setDetailsPage(page);
+    return true;
+}
+
 void GuideController::goUp()
 {
     if (m_programmeRow > 0)
@@ -141,13 +153,17 @@ void GuideController::goUp()
 
 void GuideController::goBack()
 {
-    const QDateTime now = m_clock->now();
-    if (m_detailsOpen)
+    switch (m_backAction) {
+    case CloseDetails:
         setDetailsOpen(false);
-    else if (m_inDays || date() != now.date() || m_programmeRow != m_programmes.nearestRow(now))
+        return;
+    case ShowNow:
         chooseNow();
-    else
+        return;
+    case Leave:
         Q_EMIT leaveRequested();
+        return;
+    }
 }
 
 } // namespace gallery

@@ -299,6 +299,12 @@ int PlayerController::unlockedFrom(int channelRow, int step) const
     return -1;
 }
 
+bool PlayerController::canZap() const
+{
+    const int next = unlockedFrom(m_channelRow + 1, 1);
+    return next >= 0 && next != m_channelRow;
+}
+
 void PlayerController::watch(int channelRow)
 {
     m_channelRow = channelRow;

@@ -34,6 +34,8 @@ class PlayerController : public QObject
         there is no picture.
     */
     Q_PROPERTY(bool locked READ isLocked NOTIFY channelChanged)
+    /*! Whether there is another channel to watch. */
+    Q_PROPERTY(bool canZap READ canZap NOTIFY channelChanged)
 
     /*! The programme that is watched; empty when the channel has none at that moment. */
     Q_PROPERTY(QString title READ title NOTIFY playingChanged)
@@ -96,6 +98,7 @@ public:
     QString channelName() const { return channel().name; }
     QString channelNumber() const { return channel().number; }
     bool isLocked() const { return channel().locked; }
+    bool canZap() const;
 
     QString title() const { return watched(PlayerProgrammes::TitleRole).toString(); }
     QString facts() const;

@@ -80,6 +80,43 @@
     </message>
 </context>
 <context>
+    <name>DetailsOverlay</name>
+    <message>
+        <source>Channel</source>
+        <translation>القناة</translation>
+    </message>
+    <message>
+        <source>Read on</source>
+        <translation>متابعة القراءة</translation>
+    </message>
+    <message>
+        <source>Programme</source>
+        <translation>البرنامج</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Watch</source>
+        <translation>مشاهدة</translation>
+    </message>
+    <message>
+        <source>From the start</source>
+        <translation>من البداية</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>رجوع</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>إغلاق</translation>
+    </message>
+</context>
+<context>
     <name>GroupTabs</name>
     <message>
         <source>All</source>
@@ -159,6 +196,10 @@
         <source>Reminders: %1</source>
         <extracomment>%1 names the file and says what is wrong</extracomment>
         <translation>التذكيرات: %1</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>مغادرة</translation>
     </message>
 </context>
 <context>
@@ -332,6 +373,23 @@
         <extracomment>%1 is how long ago it was sent what is watched: &quot;12 min&quot;</extracomment>
         <translation>متأخر عن البث بـ %1</translation>
     </message>
+    <message>
+        <source>Action</source>
+        <translation>إجراء</translation>
+    </message>
+    <message>
+        <source>Programme</source>
+        <translation>البرنامج</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>رجوع</translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation>إخفاء</translation>
+    </message>
 </context>
 <context>
     <name>PlayingProgrammes</name>
@@ -451,6 +509,36 @@
         <source>This episode comes out on %1</source>
         <extracomment>%1 is a date</extracomment>
         <translation>تصدر هذه الحلقة في %1</translation>
+    </message>
+    <message>
+        <source>Season</source>
+        <translation>الموسم</translation>
+    </message>
+    <message>
+        <source>Episodes</source>
+        <translation>الحلقات</translation>
+    </message>
+    <message>
+        <source>Episode</source>
+        <translation>الحلقة</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Watch</source>
+        <translation>مشاهدة</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>رجوع</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>مغادرة</translation>
     </message>
 </context>
 <context>

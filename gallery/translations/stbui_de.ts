@@ -80,6 +80,43 @@
     </message>
 </context>
 <context>
+    <name>DetailsOverlay</name>
+    <message>
+        <source>Channel</source>
+        <translation>Sender</translation>
+    </message>
+    <message>
+        <source>Read on</source>
+        <translation>Weiterlesen</translation>
+    </message>
+    <message>
+        <source>Programme</source>
+        <translation>Sendung</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Watch</source>
+        <translation>Ansehen</translation>
+    </message>
+    <message>
+        <source>From the start</source>
+        <translation>Von Anfang</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>ZURÜCK</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
     <name>GroupTabs</name>
     <message>
         <source>All</source>
@@ -159,6 +196,10 @@
         <source>Reminders: %1</source>
         <extracomment>%1 names the file and says what is wrong</extracomment>
         <translation>Erinnerungen: %1</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Verlassen</translation>
     </message>
 </context>
 <context>
@@ -332,6 +373,23 @@
         <extracomment>%1 is how long ago it was sent what is watched: &quot;12 min&quot;</extracomment>
         <translation>%1 nach der Sendung</translation>
     </message>
+    <message>
+        <source>Action</source>
+        <translation>Aktion</translation>
+    </message>
+    <message>
+        <source>Programme</source>
+        <translation>Sendung</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>ZURÜCK</translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation>Ausblenden</translation>
+    </message>
 </context>
 <context>
     <name>PlayingProgrammes</name>
@@ -451,6 +509,36 @@
         <source>This episode comes out on %1</source>
         <extracomment>%1 is a date</extracomment>
         <translation>Diese Folge erscheint am %1</translation>
+    </message>
+    <message>
+        <source>Season</source>
+        <translation>Staffel</translation>
+    </message>
+    <message>
+        <source>Episodes</source>
+        <translation>Folgen</translation>
+    </message>
+    <message>
+        <source>Episode</source>
+        <translation>Folge</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Watch</source>
+        <translation>Ansehen</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>ZURÜCK</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Verlassen</translation>
     </message>
 </context>
 <context>

@@ -80,6 +80,43 @@
     </message>
 </context>
 <context>
+    <name>DetailsOverlay</name>
+    <message>
+        <source>Channel</source>
+        <translation>Channel</translation>
+    </message>
+    <message>
+        <source>Read on</source>
+        <translation>Read on</translation>
+    </message>
+    <message>
+        <source>Programme</source>
+        <translation>Programme</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Watch</source>
+        <translation>Watch</translation>
+    </message>
+    <message>
+        <source>From the start</source>
+        <translation>From the start</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>BACK</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
     <name>GroupTabs</name>
     <message>
         <source>All</source>
@@ -159,6 +196,10 @@
         <source>Reminders: %1</source>
         <extracomment>%1 names the file and says what is wrong</extracomment>
         <translation>Reminders: %1</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Leave</translation>
     </message>
 </context>
 <context>
@@ -332,6 +373,23 @@
         <extracomment>%1 is how long ago it was sent what is watched: &quot;12 min&quot;</extracomment>
         <translation>%1 behind live</translation>
     </message>
+    <message>
+        <source>Action</source>
+        <translation>Action</translation>
+    </message>
+    <message>
+        <source>Programme</source>
+        <translation>Programme</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>BACK</translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation>Hide</translation>
+    </message>
 </context>
 <context>
     <name>PlayingProgrammes</name>
@@ -451,6 +509,36 @@
         <source>This episode comes out on %1</source>
         <extracomment>%1 is a date</extracomment>
         <translation>This episode comes out on %1</translation>
+    </message>
+    <message>
+        <source>Season</source>
+        <translation>Season</translation>
+    </message>
+    <message>
+        <source>Episodes</source>
+        <translation>Episodes</translation>
+    </message>
+    <message>
+        <source>Episode</source>
+        <translation>Episode</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Watch</source>
+        <translation>Watch</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>BACK</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Leave</translation>
     </message>
 </context>
 <context>

@@ -80,6 +80,43 @@
     </message>
 </context>
 <context>
+    <name>DetailsOverlay</name>
+    <message>
+        <source>Channel</source>
+        <translation>Канал</translation>
+    </message>
+    <message>
+        <source>Read on</source>
+        <translation>Читать дальше</translation>
+    </message>
+    <message>
+        <source>Programme</source>
+        <translation>Передача</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Watch</source>
+        <translation>Смотреть</translation>
+    </message>
+    <message>
+        <source>From the start</source>
+        <translation>С начала</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>НАЗАД</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+</context>
+<context>
     <name>GroupTabs</name>
     <message>
         <source>All</source>
@@ -159,6 +196,10 @@
         <source>Reminders: %1</source>
         <extracomment>%1 names the file and says what is wrong</extracomment>
         <translation>Напоминания: %1</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Выйти</translation>
     </message>
 </context>
 <context>
@@ -332,6 +373,23 @@
         <extracomment>%1 is how long ago it was sent what is watched: &quot;12 min&quot;</extracomment>
         <translation>Отставание от эфира: %1</translation>
     </message>
+    <message>
+        <source>Action</source>
+        <translation>Действие</translation>
+    </message>
+    <message>
+        <source>Programme</source>
+        <translation>Передача</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>НАЗАД</translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation>Скрыть</translation>
+    </message>
 </context>
 <context>
     <name>PlayingProgrammes</name>
@@ -451,6 +509,36 @@
         <source>This episode comes out on %1</source>
         <extracomment>%1 is a date</extracomment>
         <translation>Эта серия выйдет %1</translation>
+    </message>
+    <message>
+        <source>Season</source>
+        <translation>Сезон</translation>
+    </message>
+    <message>
+        <source>Episodes</source>
+        <translation>Серии</translation>
+    </message>
+    <message>
+        <source>Episode</source>
+        <translation>Серия</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Watch</source>
+        <translation>Смотреть</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>НАЗАД</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Выйти</translation>
     </message>
 </context>
 <context>
