@@ -229,6 +229,7 @@ bool Application::tellProblems()
         return false;
     }
     const QStringList messages = playlist.messages(m_options.playlistFile)
+                                 + guide.messages(m_options.guideFile)
                                  + catalogue.messages(m_options.catalogueFile);
     for (const QString &message : messages)
         printError(message);

@@ -32,6 +32,20 @@ QString place(const XmltvParser &parser)
 
 } // namespace
 
+QStringList GuideReport::messages(const QString &fileName) const
+{
+    QStringList lines;
+    for (const GuideProblem &found : problems)
+        lines.append(QStringLiteral("%1: line %2, column %3: ").arg(fileName).arg(found.line).arg(found.column)
+                     + found.text);
+    if (problemCount > problems.size())
+        lines.append(
+                QStringLiteral("%1: and %2 more problems").arg(fileName).arg(problemCount - problems.size()));
+    if (!error.isEmpty())
+        lines.append(error);
+    return lines;
+}
+
 GuideReport readGuide(const QString &fileName, const GuideReadOptions &options)
 {
     const QFileInfo info(fileName);

@@ -5,6 +5,7 @@
 #include "gallery/data/guide.h"
 
 #include <QtCore/qlist.h>
+#include <QtCore/qstringlist.h>
 
 #include <atomic>
 #include <functional>
@@ -49,6 +50,12 @@ struct GuideReport
     qint64 skippedProgrammes = 0;
     /*! Programmes that the file has twice or more, equal in all that is kept; the guide has them once. */
     qint64 duplicateProgrammes = 0;
+
+    /*!
+        Everything that is to be told about the file \a fileName, one line each: the problems, how many more there are,
+        and the error.
+    */
+    QStringList messages(const QString &fileName) const;
 };
 
 struct GuideReadOptions

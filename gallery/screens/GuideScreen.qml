@@ -113,23 +113,33 @@ FocusScope {
         anchors.bottomMargin: Look.safeY
         anchors.left: header.left
         anchors.right: header.right
-        height: hints.height
+        height: hints.height + (message.visible ? message.height + Look.tiny : 0)
 
         Label {
+            id: message
+
             anchors.left: parent.left
             anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
-            text: screen.guide.notice.length > 0 ? screen.guide.notice : screen.guide.message
+            visible: text.length > 0
+            text: screen.guide.message
             font: Look.hint
             // The place of an error stands behind the name of its file.
             elide: Text.ElideMiddle
             color: Look.quietText
         }
+        Label {
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.verticalCenter: hints.verticalCenter
+            text: screen.guide.notice
+            font: Look.hint
+        }
         Row {
             id: hints
 
             anchors.right: parent.right
-            visible: screen.guide.message.length === 0 && screen.guide.notice.length === 0 && !screen.guide.detailsOpen
+            anchors.bottom: parent.bottom
+            visible: screen.guide.notice.length === 0 && !screen.guide.detailsOpen
             spacing: Look.large
 
             KeyHint {

@@ -322,6 +322,7 @@ private Q_SLOTS:
         QVERIFY2(guide()->message().contains("line 4"), qPrintable(guide()->message()));
         QVERIFY2(guide()->message().contains("column"), qPrintable(guide()->message()));
         QVERIFY(texts().contains(guide()->message()));
+        QVERIFY(texts().contains("Leave")); // the hints stay
         QTRY_VERIFY(view()->isExposed());
     }
 
