@@ -47,6 +47,8 @@ private:
     bool closesValue(qsizetype quote) const;
 
     void readDuration();
+    void readAttributes();
+    void readName();
     void readAttribute(qsizetype keySize);
     void readWord();
     QString readValue(const QString &key);
@@ -98,6 +100,20 @@ bool EntryLine::closesValue(qsizetype quote) const
 PlaylistEntry EntryLine::read()
 {
     readDuration();
+    readAttributes();
+    if (!atEnd()) {
+        readName();
+        if (m_firstWord >= 0)
+            problem(QStringLiteral("\"%1\" is no attribute").arg(shownInMessage(m_line.mid(m_firstWord))));
+    } else if (m_firstWord >= 0) {
+        m_entry.name = m_line.mid(m_firstWord).toString().simplified();
+        problem(QStringLiteral("there is no comma before the name"));
+    }
+    return m_entry;
+}
+
+void EntryLine::readAttributes()
+{
     while (!atEnd() && at(m_at) != u',') {
         const qsizetype size = keyLength(m_at);
         if (size > 0)
@@ -106,15 +122,26 @@ PlaylistEntry EntryLine::read()
             readWord();
         m_at = blanksFrom(m_at);
     }
-    if (!atEnd()) {
+}
+
+// What stands behind the comma, without the attributes that may have come to stand there.
+void EntryLine::readName()
+{
+    const qsizetype begin = m_at + 1;
+    const auto isMisplaced = [&](qsizetype i) {
+        return (i == begin || isBlank(m_line[i - 1])) && isQuotedAttribute(i);
+    };
+    qsizetype end = begin;
+    while (end < m_line.size() && !isMisplaced(end))
+        ++end;
+    m_entry.name = m_line.mid(begin, end - begin).toString().simplified();
+    if (end >= m_line.size())
+        return;
+    problem(QStringLiteral("attributes stand behind the comma"));
+    m_at = end;
+    readAttributes();
+    if (m_entry.name.isEmpty() && !atEnd())
         m_entry.name = m_line.mid(m_at + 1).toString().simplified();
-        if (m_firstWord >= 0)
-            problem(QStringLiteral("\"%1\" is no attribute").arg(shownInMessage(m_line.mid(m_firstWord))));
-    } else if (m_firstWord >= 0) {
-        m_entry.name = m_line.mid(m_firstWord).toString().simplified();
-        problem(QStringLiteral("there is no comma before the name"));
-    }
-    return m_entry;
 }
 
 void EntryLine::readDuration()

@@ -17,10 +17,26 @@ constexpr qsizetype longestText = 300;
 constexpr qsizetype longestAddress = 8192;
 constexpr qsizetype longestNumber = 9; // "12345-678"
 
+// Each line on its own, since playlists are put together from others: UTF-8 where it is valid, else Latin-1.
+QString decoded(const QByteArray &bytes, bool *isUtf8)
+{
+    QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    const QString text = utf8(bytes);
+    *isUtf8 = !utf8.hasError();
+    return *isUtf8 ? text : QString::fromLatin1(bytes);
+}
+
 bool hasScheme(const QString &line)
 {
     static const QRegularExpression scheme(QStringLiteral("^[A-Za-z][A-Za-z0-9+.-]*://"));
     return scheme.match(line).hasMatch();
+}
+
+// A file or a station may do without a scheme, but has some sign that it is no plain text.
+bool isAddress(const QString &line)
+{
+    static const QRegularExpression sign(QStringLiteral("[/\\\\.:@]"));
+    return line.contains(sign);
 }
 
 // The file as UTF-8, or as whatever it is if that is no UTF-16.
@@ -129,38 +145,38 @@ void PlaylistParser::readLines(const QByteArray &text)
 
 void PlaylistParser::readLine(const QByteArray &bytes)
 {
-    const QString line = decoded(bytes).trimmed();
+    bool isUtf8 = true;
+    const QString line = decoded(bytes, &isUtf8).trimmed();
     if (line.isEmpty())
         return;
     const bool header = line.startsWith(QLatin1String("#EXTM3U"), Qt::CaseInsensitive);
     const bool entry = isPlaylistEntry(line);
+    const bool skipped = line.startsWith(u'#') && !entry;
     m_foundPlaylist = m_foundPlaylist || header || entry || hasScheme(line);
     if (!std::exchange(m_hasContent, true) && !header)
         problem(m_line, QStringLiteral("expected #EXTM3U before anything else"));
+    if (!isUtf8 && !skipped)
+        problem(m_line, QStringLiteral("the line is no UTF-8; it is read as Latin-1"));
     if (entry) {
         dropEntry();
         m_waiting = Waiting { readPlaylistEntry(line), m_line };
-    } else if (!line.startsWith(u'#')) {
+    } else if (!skipped) {
         readAddress(line);
     }
     tellProblems(m_waiting ? m_waiting->line : m_line + 1);
 }
 
-// Each line on its own, since playlists are put together from others: UTF-8 where it is valid, else Latin-1.
-QString PlaylistParser::decoded(const QByteArray &bytes)
-{
-    QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    QString text = utf8(bytes);
-    if (!utf8.hasError())
-        return text;
-    if (!std::exchange(m_toldEncoding, true))
-        problem(m_line, QStringLiteral("the line is no UTF-8; it and others like it are read as Latin-1"));
-    return QString::fromLatin1(bytes);
-}
-
 void PlaylistParser::readAddress(const QString &address)
 {
     const bool known = m_waiting.has_value();
+    if (known ? !isAddress(address) : !hasScheme(address)) {
+        problem(m_line, QStringLiteral("expected #EXTINF or an address, found \"%1\"; the line is left out")
+                                .arg(shownInMessage(address)));
+        // An entry waits on, but not for ever: what is wrong meanwhile is kept.
+        if (m_untold.size() > PlaylistReport::maximumProblems)
+            dropEntry();
+        return;
+    }
     if (m_report->playlist.size() >= PlaylistReport::maximumChannels) {
         problem(m_line, QStringLiteral("there are more than %1 channels; the rest is left out")
                                 .arg(PlaylistReport::maximumChannels));
@@ -170,13 +186,10 @@ void PlaylistParser::readAddress(const QString &address)
                 QStringLiteral("the address has %1 characters; its channel is left out").arg(address.size()));
     } else if (known) {
         addChannel(&m_waiting->entry, address);
-    } else if (hasScheme(address)) {
+    } else {
         PlaylistEntry entry;
         entry.problems.append(QStringLiteral("there is no #EXTINF before the address"));
         addChannel(&entry, address);
-    } else {
-        problem(m_line, QStringLiteral("expected #EXTINF or an address, found \"%1\"; the line is left out")
-                                .arg(shownInMessage(address)));
     }
     m_waiting.reset();
 }

@@ -35,7 +35,6 @@ private:
 
     void readLines(const QByteArray &text);
     void readLine(const QByteArray &bytes);
-    QString decoded(const QByteArray &bytes);
     void readAddress(const QString &address);
     void addChannel(PlaylistEntry *entry, const QString &address);
     PlaylistChannel channelOf(PlaylistEntry *entry, const QString &address) const;
@@ -56,7 +55,6 @@ private:
     QSet<QString> m_known; // what makes a channel the same as another
     bool m_foundPlaylist = false;
     bool m_hasContent = false;
-    bool m_toldEncoding = false;
     bool m_full = false;
 };
 

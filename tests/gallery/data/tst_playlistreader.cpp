@@ -27,6 +27,10 @@ private Q_SLOTS:
     void anEntryWithoutAddressIsLeftOut();
     void anAddressWithoutEntryIsNamedByItsLastPart();
     void aLineThatIsNothingIsLeftOut();
+    void anEntryWaitsForItsAddressOverPlainTexts();
+    void anEntryDoesNotWaitForEver();
+    void anAddressMayDoWithoutAScheme_data();
+    void anAddressMayDoWithoutAScheme();
     void aRepeatedIdStaysAndIsTold();
     void aRepeatedNumberIsIgnored();
     void anEqualChannelIsThereOnce();
@@ -168,6 +172,11 @@ void TestPlaylistReader::aBrokenEntryIsToldOnceAndUsed_data()
     row(R"(#EXTINF:-1 tvg-id="one.example",)", "one.example", "",
         "there is no name; the channel is called \"one.example\"");
     row("#EXTINF:-1", "stream", "", "there is no name; the channel is called \"stream\"");
+    row(R"(#EXTINF:-1,One group-title="A")", "One", "A", "attributes stand behind the comma");
+    row(R"(#EXTINF:-1,group-title="A" tvg-id="b",One, Two)", "One, Two", "A",
+        "attributes stand behind the comma");
+    row(R"(#EXTINF:-1 group-title="A",One group-title="B",Two)", "One", "A",
+        "attributes stand behind the comma; group-title is there twice; the first counts");
     row(R"(#EXTINF:x,One)", "One", "", "expected a duration, found \"x,One\"; \"x,One\" is no attribute");
 }
 
@@ -220,12 +229,14 @@ void TestPlaylistReader::everyEncodingIsRead_data()
     QTest::newRow("UTF-16LE with mark") << encoded(QStringConverter::Utf16LE, mark) << QStringList();
     QTest::newRow("UTF-16BE") << encoded(QStringConverter::Utf16BE, plain) << QStringList();
     QTest::newRow("UTF-16BE with mark") << encoded(QStringConverter::Utf16BE, mark) << QStringList();
-    const QStringList told(
-            QStringLiteral("2: the line is no UTF-8; it and others like it are read as Latin-1"));
+    const QStringList told { QStringLiteral("2: the line is no UTF-8; it is read as Latin-1"),
+                             QStringLiteral("4: the line is no UTF-8; it is read as Latin-1") };
     QTest::newRow("Latin-1") << text.toLatin1() << told;
+    QTest::newRow("Latin-1 in lines that are skipped")
+            << QByteArray("#EXTM3U\n# \xe9\n" + text.toUtf8().mid(8)) << QStringList();
     QByteArray mixed = text.toUtf8();
     mixed.replace("Télé", "T\xe9l\xe9");
-    QTest::newRow("Latin-1 and UTF-8") << mixed << told;
+    QTest::newRow("Latin-1 and UTF-8") << mixed << told.mid(0, 1);
 }
 
 void TestPlaylistReader::everyEncodingIsRead()
@@ -291,6 +302,46 @@ void TestPlaylistReader::aLineThatIsNothingIsLeftOut()
              QStringList(QStringLiteral(
                      "2: expected #EXTINF or an address, found \"\ufffd[31m<html>\"; the line is "
                      "left out")));
+}
+
+void TestPlaylistReader::anEntryWaitsForItsAddressOverPlainTexts()
+{
+    const PlaylistReport report = read(
+            list("#EXTINF:-1 tvg-chno=\"x\",One\n# remark\nlorem ipsum\nhttp://a\n"));
+    QCOMPARE(names(report), QStringList(QStringLiteral("One")));
+    QCOMPARE(report.playlist.constFirst().address, QStringLiteral("http://a"));
+    QCOMPARE(problems(report),
+             QStringList(
+                     { QStringLiteral(
+                               "2: tvg-chno \"x\" is no channel number of up to 9 characters; it is ignored"),
+                       QStringLiteral("4: expected #EXTINF or an address, found \"lorem ipsum\"; the line "
+                                      "is left out") }));
+}
+
+void TestPlaylistReader::anEntryDoesNotWaitForEver()
+{
+    const PlaylistReport report = read(list("#EXTINF:-1,One\n" + QByteArray("text\n").repeated(5000)
+                                            + "http://a\n#EXTINF:-1,Two\nhttp://b\n"));
+    QCOMPARE(names(report), QStringList({ QStringLiteral("a"), QStringLiteral("Two") }));
+    // Each text, the entry, and the address without one.
+    QCOMPARE(report.problemCount, 5002);
+    QVERIFY(problems(report).constFirst().startsWith(QLatin1String("2: no address follows")));
+}
+
+void TestPlaylistReader::anAddressMayDoWithoutAScheme_data()
+{
+    QTest::addColumn<QByteArray>("address");
+    for (const char *address : { "one.ts", "/media/one two", "folder/one", "rtp:@239.0.0.1", "C:\\tv\\one" })
+        QTest::newRow(address) << QByteArray(address);
+}
+
+void TestPlaylistReader::anAddressMayDoWithoutAScheme()
+{
+    QFETCH(QByteArray, address);
+    const PlaylistReport report = read(list("#EXTINF:-1,One\n" + address + "\n"));
+    QCOMPARE(report.playlist.size(), 1);
+    QCOMPARE(report.playlist.constFirst().address, QString::fromUtf8(address));
+    QCOMPARE(problems(report), QStringList());
 }
 
 void TestPlaylistReader::aRepeatedIdStaysAndIsTold()
