@@ -135,17 +135,23 @@ FocusScope {
                 text: qsTr("Group")
             }
             KeyHint {
+                visible: rows.count > 1
                 key: "▲ ▼"
                 text: qsTr("Channel")
             }
             KeyHint {
-                visible: Look.wide
+                visible: Look.wide && screen.channels.hasNumbers
                 key: "0–9"
                 text: qsTr("Number")
             }
             KeyHint {
+                visible: rows.count > 0
                 key: qsTr("OK", "a key of the remote control")
                 text: qsTr("Watch")
+            }
+            KeyHint {
+                key: qsTr("BACK", "a key of the remote control")
+                text: qsTr("Leave")
             }
         }
     }

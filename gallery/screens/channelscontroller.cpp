@@ -4,9 +4,11 @@
 #include "gallery/data/clock.h"
 #include "screens/remotekey.h"
 
+#include <QtCore/qcoreapplication.h>
 #include <QtCore/qset.h>
 
 #include <algorithm>
+#include <iterator>
 
 namespace gallery {
 
@@ -41,6 +43,29 @@ QString withoutLeadingZeros(const QString &number)
     return number.mid(zeros);
 }
 
+// A number as it is typed, without what no key stands for: "71" for "07-1".
+QString digitsOf(const QString &number)
+{
+    QString digits;
+    std::copy_if(number.cbegin(), number.cend(), std::back_inserter(digits),
+                 [](QChar c) { return c >= u'0' && c <= u'9'; });
+    return withoutLeadingZeros(digits);
+}
+
+QString noSuchChannel()
+{
+    return QCoreApplication::translate("ChannelsScreen", "No such channel");
+}
+
+bool hasNumber(const Guide &guide)
+{
+    for (int channel = 0; channel < guide.channelCount(); ++channel) {
+        if (!guide.channel(channel).number.isEmpty())
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 ChannelsController::ChannelsController(Clock *clock, QObject *parent)
@@ -68,6 +93,10 @@ void ChannelsController::setGuide(const Guide &guide)
     }
     if (m_chosenId.isEmpty())
         m_chosenId = m_playingId;
+    if (hasNumber(guide) != m_hasNumbers) {
+        m_hasNumbers = !m_hasNumbers;
+        Q_EMIT hasNumbersChanged();
+    }
     // The names of the groups go first: whoever hears of another choice finds it among them.
     if (otherGroups)
         Q_EMIT groupsChanged();
@@ -205,25 +234,65 @@ void ChannelsController::typeDigit(int digit)
 
 void ChannelsController::chooseNumber()
 {
-    const QString number = withoutLeadingZeros(m_typedNumber);
-    const Guide shown = guide();
-    int found = -1;
-    for (int i = 0; i < shown.channelCount(); ++i) {
-        const bool inGroup = m_channels.rowOf(i) >= 0;
-        if (withoutLeadingZeros(shown.channel(i).number) == number && (found < 0 || inGroup)) {
-            found = i;
-            if (inGroup)
-                break;
-        }
-    }
+    int found = channelOfNumber(m_typedNumber, true);
     if (found < 0)
+        found = channelOfNumber(m_typedNumber, false);
+    m_numberFound = found >= 0;
+    if (!m_numberFound) {
+        setMessage(isNumberToType(m_typedNumber) ? QString() : noSuchChannel());
         return;
+    }
     if (m_channels.rowOf(found) >= 0) {
         chooseRow(m_channels.rowOf(found));
         return;
     }
+    const Guide shown = guide();
     m_chosenId = shown.channel(found).id;
     show(shown, {});
+}
+
+// The first channel with this number, of those that are shown or else of all; -1 without one.
+int ChannelsController::channelOfNumber(const QString &number, bool exactly) const
+{
+    const auto comparable = [exactly](const QString &text) {
+        return exactly ? withoutLeadingZeros(text) : digitsOf(text);
+    };
+    const QString wanted = comparable(number);
+    const Guide shown = guide();
+    int found = -1;
+    for (int i = 0; i < shown.channelCount(); ++i) {
+        const QString &own = shown.channel(i).number;
+        if (own.isEmpty() || comparable(own) != wanted)
+            continue;
+        if (m_channels.rowOf(i) >= 0)
+            return i;
+        if (found < 0)
+            found = i;
+    }
+    return found;
+}
+
+// Whether more digits behind \a beginning can make the number of a channel.
+bool ChannelsController::isNumberToType(const QString &beginning) const
+{
+    const QString digits = withoutLeadingZeros(beginning);
+    if (digits == u"0")
+        return m_hasNumbers;
+    const Guide shown = guide();
+    for (int i = 0; i < shown.channelCount(); ++i) {
+        const QString own = digitsOf(shown.channel(i).number);
+        if (own.size() > digits.size() && own.startsWith(digits))
+            return true;
+    }
+    return false;
+}
+
+void ChannelsController::forgetTypedNumber()
+{
+    const bool failed = !m_typedNumber.isEmpty() && !m_numberFound;
+    setTypedNumber({});
+    if (failed)
+        setMessage(noSuchChannel());
 }
 
 void ChannelsController::play()

@@ -45,7 +45,12 @@ class ChannelsController : public QObject
 
     /*! The digits of a channel's number that were pressed so far; empty two seconds after the last one. */
     Q_PROPERTY(QString typedNumber READ typedNumber NOTIFY typedNumberChanged)
-    /*! What is told until the next key: that the channel cannot be played because it is locked; else empty. */
+    /*! Whether any channel has a number to type. */
+    Q_PROPERTY(bool hasNumbers READ hasNumbers NOTIFY hasNumbersChanged)
+    /*!
+        What is told until the next key: that the channel cannot be played because it is locked, or that none has the
+        number that was typed; else empty.
+    */
     Q_PROPERTY(QString message READ message NOTIFY messageChanged)
 
     /*! How many rows a page key moves by, at least 1; the view knows how many it shows. */
@@ -89,6 +94,7 @@ public:
     QString nextTime() const { return m_next.start.toString(QStringLiteral("HH:mm")); }
 
     QString typedNumber() const { return m_typedNumber; }
+    bool hasNumbers() const { return m_hasNumbers; }
     QString message() const { return m_message; }
     int rowsPerPage() const { return m_rowsPerPage; }
     void setRowsPerPage(int rows);
@@ -100,19 +106,22 @@ public:
 
         Up, Down, Page Up, Page Down, Home and End choose another channel, Left and Right another group: the chosen
         channel stays when the group has it, else its first one is chosen. Digits make a number, and the channel that
-        has it is chosen, of the group or else of all; without one nothing changes. Return plays the chosen channel,
+        has it is chosen, of the group or else of all: exactly, or else without the dot or hyphen in its number ("71" for
+        "7-1"). Without one nothing changes but the message, which comes when no longer number begins like this, or when
+        no further digit is typed. Return plays the chosen channel,
         unless it is locked. Back forgets a number that was begun, else asks to leave.
     */
     Q_INVOKABLE bool press(int key);
 
-    /*! The next digit begins another number. */
-    void forgetTypedNumber() { setTypedNumber({}); }
+    /*! The next digit begins another number; what was typed is found, or told not to be. */
+    void forgetTypedNumber();
 
 Q_SIGNALS:
     void selectionChanged();
     void groupsChanged();
     void programmeChanged();
     void typedNumberChanged();
+    void hasNumbersChanged();
     void messageChanged();
     void rowsPerPageChanged();
     void mirroredChanged();
@@ -127,6 +136,8 @@ private:
     void chooseRow(int row);
     void chooseGroup(int index);
     void chooseNumber();
+    int channelOfNumber(const QString &number, bool exactly) const;
+    bool isNumberToType(const QString &beginning) const;
     void play();
     void typeDigit(int digit);
     void setTypedNumber(const QString &number);
@@ -147,6 +158,8 @@ private:
     QTimer m_typing;
     int m_row = -1;
     int m_rowsPerPage = 1;
+    bool m_hasNumbers = false;
+    bool m_numberFound = false;
     bool m_mirrored = false;
 };
 

@@ -39,6 +39,19 @@
         <source>Watch</source>
         <translation>مشاهدة</translation>
     </message>
+    <message>
+        <source>No such channel</source>
+        <translation>لا توجد قناة بهذا الرقم</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>رجوع</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>مغادرة</translation>
+    </message>
 </context>
 <context>
     <name>DetailScreen</name>

@@ -39,6 +39,19 @@
         <source>Watch</source>
         <translation>Ansehen</translation>
     </message>
+    <message>
+        <source>No such channel</source>
+        <translation>Diesen Sender gibt es nicht</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>ZURÜCK</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Verlassen</translation>
+    </message>
 </context>
 <context>
     <name>DetailScreen</name>

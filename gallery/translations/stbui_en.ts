@@ -39,6 +39,19 @@
         <source>Watch</source>
         <translation>Watch</translation>
     </message>
+    <message>
+        <source>No such channel</source>
+        <translation>No such channel</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>BACK</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Leave</translation>
+    </message>
 </context>
 <context>
     <name>DetailScreen</name>

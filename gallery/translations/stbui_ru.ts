@@ -39,6 +39,19 @@
         <source>Watch</source>
         <translation>Смотреть</translation>
     </message>
+    <message>
+        <source>No such channel</source>
+        <translation>Такого канала нет</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>НАЗАД</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Выйти</translation>
+    </message>
 </context>
 <context>
     <name>DetailScreen</name>

@@ -264,6 +264,63 @@ private Q_SLOTS:
         QCOMPARE(m->typedNumber(), "007");
     }
 
+    void aNumberWithASeparatorIsTypedWithoutIt()
+    {
+        setUp({ { "a", "7" }, { "b", "7-1" }, { "c", "10.5" }, { "d", "07.2" }, { "e", "71" } });
+        press({ Qt::Key_1, Qt::Key_0, Qt::Key_5 });
+        QCOMPARE(chosen(), "c");
+        m->forgetTypedNumber();
+        press({ Qt::Key_7, Qt::Key_2 });
+        QCOMPARE(chosen(), "d");
+        m->forgetTypedNumber();
+        press({ Qt::Key_7, Qt::Key_1 });
+        QCOMPARE(chosen(), "e"); // the very number first
+        setUp({ { "a", "7" }, { "b", "7-1" } });
+        press({ Qt::Key_7, Qt::Key_1 });
+        QCOMPARE(chosen(), "b");
+        m->forgetTypedNumber();
+        QCOMPARE(m->message(), QString());
+    }
+
+    void aNumberThatNoChannelCanHaveIsToldAtOnce()
+    {
+        setUp(); // 1, 2, 3, 4, 7, 12, 40
+        press({ Qt::Key_9 });
+        QCOMPARE(m->message(), "No such channel");
+        press({ Qt::Key_Down });
+        QCOMPARE(m->message(), QString());
+        press({ Qt::Key_4, Qt::Key_0 });
+        QCOMPARE(m->message(), QString());
+        press({ Qt::Key_0 });
+        QCOMPARE(m->message(), "No such channel");
+    }
+
+    void aNumberThatIsNotCompleteIsToldAfterAWhile()
+    {
+        setUp({ { "a", "1" }, { "b", "205" } });
+        press({ Qt::Key_2, Qt::Key_0 });
+        QCOMPARE(m->message(), QString());
+        m->forgetTypedNumber();
+        QCOMPARE(m->message(), "No such channel");
+        press({ Qt::Key_0 });
+        QCOMPARE(m->message(), QString());
+        press({ Qt::Key_2, Qt::Key_0, Qt::Key_5 });
+        m->forgetTypedNumber();
+        QCOMPARE(m->message(), QString());
+        QCOMPARE(chosen(), "b");
+    }
+
+    void withoutNumbersThereIsNothingToType()
+    {
+        setUp({ { "a" }, { "b" } });
+        QVERIFY(!m->hasNumbers());
+        QSignalSpy changes(m.get(), &ChannelsController::hasNumbersChanged);
+        m->setGuide(channels::guide({ { "a" }, { "b", "2" } }));
+        QVERIFY(m->hasNumbers());
+        m->setGuide(channels::guide({ { "b", "3" } }));
+        QCOMPARE(changes.count(), 1);
+    }
+
     void aNumberIsForgottenAfterTwoSeconds()
     {
         setUp();
