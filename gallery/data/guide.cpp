@@ -6,6 +6,7 @@
 #include <QtCore/qcoreapplication.h>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace gallery {
 
@@ -161,6 +162,24 @@ int Guide::previousProgramme(int channel, qint64 time) const
 {
     Q_ASSERT(channel >= 0 && channel < channelCount());
     return int(firstFrom(m_data->channels[size_t(channel)].programmes->records, time)) - 1;
+}
+
+int Guide::programmeLike(int channel, qint64 start, const QString &title) const
+{
+    constexpr qint64 longestMove = 3600;
+    int found = -1;
+    qint64 smallest = longestMove + 1;
+    const int count = programmeCount(channel);
+    for (int i = previousProgramme(channel, start - longestMove) + 1; i < count; ++i) {
+        const qint64 move = timeSpan(channel, i).start - start;
+        if (move > longestMove)
+            break;
+        if (std::abs(move) < smallest && programme(channel, i).shownTitle() == title) {
+            smallest = std::abs(move);
+            found = i;
+        }
+    }
+    return found;
 }
 
 QList<int> Guide::programmesIn(int channel, const TimeSpan &span) const

@@ -119,6 +119,12 @@ public:
     int previousProgramme(int channel, qint64 time) const;
 
     /*!
+        The programme with the shown title \a title that starts at \a start or nearest to it, at most an hour before or
+        after: where another guide has what this one calls so. -1 without one.
+    */
+    int programmeLike(int channel, qint64 start, const QString &title) const;
+
+    /*!
         The programmes that run or start at any time of \a span: also one that began earlier and still runs, and
         one of no length.
     */

@@ -181,9 +181,11 @@ TimeSpan ProgrammeModel::timeOf(int row) const
 
 int ProgrammeModel::rowAt(qint64 time) const
 {
-    if (m_rows.isEmpty())
-        return -1;
-    const int programme = m_guide.programmeAt(m_channel, time);
+    return m_rows.isEmpty() ? -1 : rowOf(m_guide.programmeAt(m_channel, time));
+}
+
+int ProgrammeModel::rowOf(int programme) const
+{
     const auto row = std::lower_bound(m_rows.cbegin(), m_rows.cend(), programme);
     return row != m_rows.cend() && *row == programme ? int(row - m_rows.cbegin()) : -1;
 }

@@ -79,6 +79,9 @@ public:
     */
     Q_INVOKABLE int nearestRow(const QDateTime &time) const;
 
+    /*! The row of the programme with this index in the guide, or -1. */
+    int rowOf(int programme) const;
+
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;

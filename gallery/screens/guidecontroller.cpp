@@ -105,20 +105,10 @@ void GuideController::chooseAgain(int row)
 // The row of the programme that \a kept tells of, also when it was moved by an hour at most; -1 without.
 int GuideController::rowOf(const Kept &kept) const
 {
-    constexpr qint64 longestMove = 3600;
-    int found = -1;
-    qint64 smallest = longestMove + 1;
-    for (int row = 0; row < m_programmes.count() && kept.start.isValid(); ++row) {
-        const QModelIndex programme = m_programmes.index(row);
-        const QDateTime start = m_programmes.data(programme, ProgrammeModel::StartRole).toDateTime();
-        const qint64 move = std::abs(start.secsTo(kept.start));
-        if (move < smallest
-            && m_programmes.data(programme, ProgrammeModel::TitleRole).toString() == kept.title) {
-            smallest = move;
-            found = row;
-        }
-    }
-    return found;
+    if (!kept.start.isValid() || m_channelRow < 0)
+        return -1;
+    return m_programmes.rowOf(
+            shownGuide().programmeLike(m_channelRow, kept.start.toSecsSinceEpoch(), kept.title));
 }
 
 QString GuideController::channelNumber() const

@@ -80,16 +80,11 @@ int PlayerProgrammes::rowOf(qint64 start, const QString &title) const
 {
     if (m_count == 0)
         return -1;
-    int found = -1;
-    for (int row = m_guide.nextProgramme(m_channel, start - 1); row >= 0 && row < m_count; ++row) {
-        if (timeSpan(row).start != start)
-            break;
-        if (m_guide.programme(m_channel, row).shownTitle() == title)
-            return row;
-        if (found < 0)
-            found = row;
-    }
-    return found;
+    const int like = m_guide.programmeLike(m_channel, start, title);
+    if (like >= 0)
+        return like;
+    const int next = m_guide.nextProgramme(m_channel, start - 1);
+    return next >= 0 && timeSpan(next).start == start ? next : -1;
 }
 
 QVariant PlayerProgrammes::data(const QModelIndex &index, int role) const

@@ -41,7 +41,10 @@ public:
     int rowAt(qint64 time) const { return m_count > 0 ? m_guide.programmeAt(m_channel, time) : -1; }
     /*! The row that is on at \a time, else the last one that began before, else the first; -1 only without rows. */
     int nearestRow(qint64 time) const;
-    /*! The row that starts at \a time, of several the one with this title; -1 when none does. */
+    /*!
+        The row of this title that starts at \a start, or up to an hour before or after; else the first one that starts at
+        \a start; -1 when none does.
+    */
     int rowOf(qint64 start, const QString &title) const;
 
     int rowCount(const QModelIndex &parent = {}) const override { return parent.isValid() ? 0 : m_count; }

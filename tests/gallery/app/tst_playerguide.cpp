@@ -66,6 +66,19 @@ class tst_PlayerGuide : public stbtest::TestCase
         return {};
     }
 
+    /*! "a" with shows called by their hours, all \a minutes later than that. */
+    static gallery::Guide movedBy(int minutes)
+    {
+        QList<guides::Show> shows;
+        for (int hour = 0; hour < 24; ++hour) {
+            const QDateTime start = guides::at(hour, 0).addSecs(qint64(minutes) * 60);
+            shows.append({ QString::number(hour), start, start.addSecs(3600) });
+        }
+        gallery::GuideBuilder builder;
+        guides::addChannel(builder, "a", shows);
+        return builder.take();
+    }
+
     static gallery::Guide randomGuide(QRandomGenerator &random)
     {
         gallery::GuideBuilder builder;
@@ -91,6 +104,28 @@ private Q_SLOTS:
         m = std::make_unique<Fixture>();
     }
     void cleanup() { m.reset(); }
+
+    void aMovedProgrammeStaysChosenUpToAnHour_data()
+    {
+        QTest::addColumn<int>("minutes");
+        QTest::addColumn<QString>("title");
+        QTest::newRow("not moved") << 0 << "22";
+        QTest::newRow("later") << 25 << "22";
+        QTest::newRow("an hour later") << 60 << "22";
+        QTest::newRow("an hour earlier") << -60 << "22";
+        QTest::newRow("more than an hour") << 61 << "20"; // what is on then at 22:00
+    }
+    void aMovedProgrammeStaysChosenUpToAnHour()
+    {
+        QFETCH(int, minutes);
+        m->player.setGuide(movedBy(0));
+        QVERIFY(m->player.play(0));
+        m->player.press(Qt::Key_Right);
+        m->player.press(Qt::Key_Right);
+        QCOMPARE(m->chosen().toString(), "22");
+        m->player.setGuide(movedBy(minutes));
+        QTEST(m->chosen().toString(), "title");
+    }
 
     void allProgrammesOfTheChannelAreThere()
     {
