@@ -27,6 +27,7 @@ private Q_SLOTS:
     void theSameGuideKeepsItsSheets();
     void anotherLookDrawsAnew();
     void aThousandChannelsStayWithinTheLimit();
+    void aSheetThatHadToGoIsDrawnAgainAlike();
     void twoSheetsAreKeptHoweverLarge();
     void aChannelKeepsItsTintInAnyPlace();
     void tintsDifferInHueOnly();
@@ -226,6 +227,21 @@ void TestLogoSheet::aThousandChannelsStayWithinTheLimit()
     m->canvas(999);
     m->canvas(990);
     QCOMPARE(m->drawnSheets(), 63);
+}
+
+void TestLogoSheet::aSheetThatHadToGoIsDrawnAgainAlike()
+{
+    m->setCellSize({ 192, 108 });
+    show(numbered(1000));
+    const QImage before = cellOf(3);
+    for (int channel = 0; channel < 1000; channel += LogoSheet::cellsPerSheet)
+        m->canvas(channel);
+    QCOMPARE(m->drawnSheets(), 63);
+    QCOMPARE(cellOf(3), before);
+    QCOMPARE(m->drawnSheets(), 64);
+    QVERIFY(m->usedKilobytes() <= LogoSheet::keptKilobytes);
+    m->canvas(0);
+    QCOMPARE(m->drawnSheets(), 64);
 }
 
 void TestLogoSheet::twoSheetsAreKeptHoweverLarge()
