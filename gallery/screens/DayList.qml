@@ -55,8 +55,8 @@ ListView {
             y: Look.tiny
             width: Look.dayWidth
             height: parent.height - 2 * Look.tiny
-            // There is nothing on that day.
-            opacity: cell.hasProgrammes ? 1 : 0.4
+            // There is nothing on that day; on the bright plate less is seen of what is faint.
+            opacity: cell.hasProgrammes ? 1 : cell.focused ? 0.7 : 0.4
             style: cell.focused ? Look.focusedDate : QmlDesignSystem.playerEpgDateStyle
             // qmllint disable type
             date: cell.day

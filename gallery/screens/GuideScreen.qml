@@ -72,6 +72,8 @@ FocusScope {
         anchors.right: header.right
         width: implicitWidth
         focus: !screen.guide.detailsOpen && !screen.guide.inDays
+        // Behind the details everything stays where it is.
+        cardShown: !screen.guide.inDays
         model: screen.guide.programmes
         currentIndex: screen.guide.programmeRow
     }
@@ -143,12 +145,20 @@ FocusScope {
             spacing: Look.large
 
             KeyHint {
+                visible: screen.guide.inDays || (screen.guide.leftChannelName + screen.guide.rightChannelName).length > 0
                 key: "◀ ▶"
                 text: screen.guide.inDays ? qsTr("Day") : qsTr("Channel")
             }
             KeyHint {
+                visible: screen.guide.inDays || screen.guide.programmeRow >= 0
                 key: screen.guide.inDays ? "▼" : "▲ ▼"
                 text: screen.guide.inDays ? qsTr("Programmes") : qsTr("Programme")
+            }
+            // Where there is nothing to choose, Up leads to the days at once.
+            KeyHint {
+                visible: screen.guide.channelRow >= 0 && screen.guide.programmeRow < 0 && !screen.guide.inDays
+                key: "▲"
+                text: qsTr("Day")
             }
             // What OK does with a programme that is to come stands on its card.
             KeyHint {
@@ -158,7 +168,7 @@ FocusScope {
                 text: qsTr("Details")
             }
             KeyHint {
-                visible: Look.wide && !screen.guide.inDays
+                visible: Look.wide && screen.guide.programmeRow >= 0 && !screen.guide.inDays
                 key: qsTr("MENU", "a key of the remote control")
                 text: qsTr("Day")
             }

@@ -8,6 +8,8 @@ import Gallery
 ListView {
     id: list
 
+    // Whether the chosen row shows its card.
+    property bool cardShown: focus
     // How many rows fit, most of which have a title and a line below it.
     readonly property int visibleRows: Math.max(1, Math.floor(height / (titleFont.height + subtitleFont.height + Look.medium)))
     // qmllint disable type
@@ -26,7 +28,7 @@ ListView {
         id: row
 
         readonly property bool chosen: ListView.isCurrentItem
-        readonly property bool focused: chosen && ListView.view.focus
+        readonly property bool focused: chosen && list.cardShown
         readonly property EpgViewDelegateFocused focusedForm: card.item as EpgViewDelegateFocused
         required property string title
         required property string subtitle
@@ -103,6 +105,7 @@ ListView {
                     x: parent.customFocusRect.x - Look.frame
                     y: parent.customFocusRect.y - Look.frame
                     z: -1
+                    visible: list.focus
                     width: parent.customFocusRect.width + 2 * Look.frame
                     height: parent.customFocusRect.height + 2 * Look.frame
                     radius: 0

@@ -2,6 +2,8 @@
 #include "channels.h"
 #include "screentest.h"
 
+#include <algorithm>
+
 /*! What the guide, its details and other screens say that keys do. */
 class tst_GuideHints : public ScreenTest
 {
@@ -150,6 +152,37 @@ private Q_SLOTS:
         press(Qt::Key_Return);
         QVERIFY(texts().contains("This channel is locked"));
         QVERIFY(!texts().contains("Close"));
+    }
+
+    void behindTheDetailsTheListStaysWhereItIs()
+    {
+        start();
+        QTRY_COMPARE(items("card").size(), 1);
+        const QRectF before = sceneRect(item("card"));
+        press(Qt::Key_Return);
+        QVERIFY(guide()->isDetailsOpen());
+        QCoreApplication::processEvents();
+        QCOMPARE(items("card").size(), 1);
+        QCOMPARE(sceneRect(item("card")), before);
+        QCOMPARE(items("focusPlate").size(), 1);
+    }
+
+    void aFocusedDayWithoutProgrammesCanBeRead()
+    {
+        start();
+        press(Qt::Key_Home);
+        press(Qt::Key_Up);
+        QVERIFY(guide()->isInDays());
+        press(Qt::Key_Right);
+        const QQuickItem *day = item("days")->property("currentItem").value<QQuickItem *>();
+        QVERIFY(day != nullptr);
+        const QList<QQuickItem *> children = day->childItems();
+        const auto date = std::find_if(children.cbegin(), children.cend(), [](const QQuickItem *child) {
+            return child->property("isActive").isValid();
+        });
+        QVERIFY(date != children.cend());
+        QVERIFY((*date)->opacity() < 1);
+        QVERIFY((*date)->opacity() >= 0.7);
     }
 
     void thePlayerSaysWhatArrowsAndBackDo()
