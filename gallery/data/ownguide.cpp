@@ -4,6 +4,7 @@
 #include "gallery/data/guidebuilder.h"
 
 #include <QtCore/qfile.h>
+#include <QtCore/qhash.h>
 #include <QtCore/qjsonarray.h>
 #include <QtCore/qjsondocument.h>
 #include <QtCore/qjsonobject.h>
@@ -72,10 +73,11 @@ private:
         const QDate last = QDateTime::fromSecsSinceEpoch(m_wanted.stop).date();
         for (QDate date = QDateTime::fromSecsSinceEpoch(m_wanted.start).date().addDays(-1); date <= last;
              date = date.addDays(1)) {
+            // The same date has the same episodes in a guide that begins on another day.
+            qint64 episode = date.toJulianDay() * (day.size() + 1);
             for (const QJsonValue &entry : day) {
                 const QTime time = QTime::fromString(entry[0].toString(), QStringLiteral("HH:mm"));
-                starts.push_back({ QDateTime(date, time).toSecsSinceEpoch(), entry[1].toString(),
-                                   date.toJulianDay() + qint64(starts.size()) });
+                starts.push_back({ QDateTime(date, time).toSecsSinceEpoch(), entry[1].toString(), episode++ });
             }
         }
         // When the clocks go forward, times that the day does not have come to lie after later ones.
@@ -84,24 +86,49 @@ private:
         return starts;
     }
 
+    struct Texts
+    {
+        QString title;
+        QStringList subtitles;
+        QString description;
+        QString category;
+    };
+
+    // A programme is on many times; its texts are looked for once.
+    const Texts &textsOf(const QString &programme)
+    {
+        const auto known = m_texts.constFind(programme);
+        if (known != m_texts.constEnd())
+            return *known;
+        const QJsonValue json = m_programmes[programme];
+        Texts texts;
+        texts.title = localized(json[QLatin1String("title")], m_language);
+        const QJsonArray subtitles = json[QLatin1String("subtitles")].toArray();
+        for (const QJsonValue &subtitle : subtitles)
+            texts.subtitles.append(localized(subtitle, m_language));
+        texts.description = localized(json[QLatin1String("description")], m_language);
+        texts.category = localized(m_categories[json[QLatin1String("category")].toString()], m_language);
+        return *m_texts.insert(programme, texts);
+    }
+
     void writeProgramme(const QString &channelId, const TimeSpan &time, const Start &start)
     {
-        const QJsonValue texts = m_programmes[start.programme];
-        const QJsonArray subtitles = texts[QLatin1String("subtitles")].toArray();
+        const Texts &texts = textsOf(start.programme);
         NewProgramme programme;
         programme.channelId = channelId;
         programme.start = time.start;
         programme.stop = time.stop;
-        programme.title = localized(texts[QLatin1String("title")], m_language);
-        if (!subtitles.isEmpty())
-            programme.subTitle = localized(subtitles.at(start.episode % subtitles.size()), m_language);
-        programme.description = localized(texts[QLatin1String("description")], m_language);
-        programme.category = localized(m_categories[texts[QLatin1String("category")].toString()], m_language);
+        programme.title = texts.title;
+        if (!texts.subtitles.isEmpty())
+            programme.subTitle = texts.subtitles.at(start.episode % texts.subtitles.size());
+        programme.description = texts.description;
+        programme.category = texts.category;
         m_guide->addProgramme(programme);
     }
 
     QJsonObject m_programmes;
     QJsonObject m_categories;
+    QHash<QString, Texts> m_texts;
     QString m_language;
     TimeSpan m_wanted;
     GuideBuilder *m_guide = nullptr;
@@ -116,7 +143,8 @@ Guide ownGuide(const QDateTime &now, const QString &language)
         return {};
     const QJsonObject pattern = QJsonDocument::fromJson(file.readAll()).object();
     const QDate today = now.toLocalTime().date();
-    const TimeSpan wanted { localDay(today.addDays(-1)).start, localDay(today.addDays(1)).stop };
+    const TimeSpan wanted { localDay(today.addDays(-ownGuideDays)).start,
+                            localDay(today.addDays(ownGuideDays)).stop };
     GuideBuilder builder;
     Writer writer(pattern, language.left(2).toLower(), wanted, &builder);
     const QJsonArray channels = pattern[QLatin1String("channels")].toArray();

@@ -16,8 +16,8 @@ class TestOwnGuide : public stbtest::TestCase
 {
     Q_OBJECT
 private Q_SLOTS:
-    void everyMinuteOfThreeDaysHasItsProgramme_data();
-    void everyMinuteOfThreeDaysHasItsProgramme();
+    void everyMinuteOfFifteenDaysHasItsProgramme_data();
+    void everyMinuteOfFifteenDaysHasItsProgramme();
     void itHasEightChannelsWithNumbersAndNames();
     void itsChannelsAreInGroupsAndOneIsLocked();
     void itsLogosAreThere();
@@ -30,6 +30,7 @@ private Q_SLOTS:
     void everyDescriptionIsTranslated();
     void everyCategoryIsTranslated();
     void theSameTimeGivesTheSameGuide();
+    void theNextDaysGuideHasTheSameProgrammes();
     void cleanup();
 };
 
@@ -81,7 +82,7 @@ void TestOwnGuide::cleanup()
     setZone("UTC");
 }
 
-void TestOwnGuide::everyMinuteOfThreeDaysHasItsProgramme_data()
+void TestOwnGuide::everyMinuteOfFifteenDaysHasItsProgramme_data()
 {
     QTest::addColumn<QByteArray>("zone");
     QTest::addColumn<QString>("now");
@@ -92,14 +93,14 @@ void TestOwnGuide::everyMinuteOfThreeDaysHasItsProgramme_data()
         QTest::newRow(title) << QByteArray(zone) << QString::fromLatin1(now) << at(start) << at(stop);
     };
     const char *london = "GMT0BST,M3.5.0/1,M10.5.0";
-    row("UTC", "UTC", "2026-05-13T20:05:00", "2026-05-12T00:00:00Z", "2026-05-15T00:00:00Z");
-    row("just after midnight", "UTC", "2026-05-13T00:00:00", "2026-05-12T00:00:00Z", "2026-05-15T00:00:00Z");
-    row("east", "EST-7:30", "2026-05-13T23:59:59", "2026-05-11T16:30:00Z", "2026-05-14T16:30:00Z");
-    row("clocks go forward", london, "2026-03-29T12:00:00", "2026-03-28T00:00:00Z", "2026-03-30T23:00:00Z");
-    row("clocks go back", london, "2026-10-25T12:00:00", "2026-10-23T23:00:00Z", "2026-10-27T00:00:00Z");
+    row("UTC", "UTC", "2026-05-13T20:05:00", "2026-05-06T00:00:00Z", "2026-05-21T00:00:00Z");
+    row("just after midnight", "UTC", "2026-05-13T00:00:00", "2026-05-06T00:00:00Z", "2026-05-21T00:00:00Z");
+    row("east", "EST-7:30", "2026-05-13T23:59:59", "2026-05-05T16:30:00Z", "2026-05-20T16:30:00Z");
+    row("clocks go forward", london, "2026-03-29T12:00:00", "2026-03-22T00:00:00Z", "2026-04-05T23:00:00Z");
+    row("clocks go back", london, "2026-10-25T12:00:00", "2026-10-17T23:00:00Z", "2026-11-02T00:00:00Z");
 }
 
-void TestOwnGuide::everyMinuteOfThreeDaysHasItsProgramme()
+void TestOwnGuide::everyMinuteOfFifteenDaysHasItsProgramme()
 {
     QFETCH(QByteArray, zone);
     QFETCH(QString, now);
@@ -243,6 +244,23 @@ void TestOwnGuide::everyCategoryIsTranslated()
     // The same words in English and German.
     QCOMPARE(sharedTexts(&Programme::category),
              QSet<QString>({ QStringLiteral("Film"), QStringLiteral("Quiz"), QStringLiteral("Sport") }));
+}
+
+void TestOwnGuide::theNextDaysGuideHasTheSameProgrammes()
+{
+    const Guide before = ownGuide(local("2026-05-13T20:05:00"), QStringLiteral("en"));
+    const Guide after = ownGuide(local("2026-05-14T20:05:00"), QStringLiteral("en"));
+    for (int channel = 0; channel < before.channelCount(); ++channel) {
+        const int last = before.programmeCount(channel) - 1;
+        int row = before.nextProgramme(channel, after.timeSpan(channel, 0).start - 1);
+        QVERIFY(row > 0);
+        for (int other = 0; row <= last; ++row, ++other) {
+            const Programme programme = before.programme(channel, row);
+            QCOMPARE(after.programme(channel, other).time, programme.time);
+            QCOMPARE(after.programme(channel, other).title, programme.title);
+            QCOMPARE(after.programme(channel, other).subTitle, programme.subTitle);
+        }
+    }
 }
 
 void TestOwnGuide::theSameTimeGivesTheSameGuide()
