@@ -20,7 +20,7 @@ public:
         NumberRole, /*!< number: QString such as "7" or "7-1", empty when the guide gives none */
         LogoRole, /*!< logo: QUrl, empty when there is none */
         GroupRole, /*!< group: QString such as "News", empty without a playlist that gives one */
-        QualityRole, /*!< quality: QString such as "HD", empty without a playlist that tells it */
+        QualityRole, /*!< quality: QString such as "HD", empty when nothing tells it */
         LockedRole, /*!< locked: bool, false without a playlist that tells it */
         FirstDerivedRole /*!< where the roles of derived models begin */
     };

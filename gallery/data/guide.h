@@ -27,7 +27,7 @@ struct Channel
     QUrl icon;
     /*! The group that the channel is in ("News"), as a playlist tells; else empty. */
     QString group = {};
-    /*! The quality ("HD", "4K"), as a playlist tells; else empty. */
+    /*! The quality ("HD", "4K"), as the name or a playlist tells; else empty. */
     QString quality = {};
     /*! Whether it takes a code to watch it, as a playlist tells. */
     bool locked = false;

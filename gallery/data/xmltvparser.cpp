@@ -189,6 +189,7 @@ void XmltvParser::finishChannel()
     channel.number = m_choices[Number].text;
     channel.name = m_choices[Name].text.isEmpty() ? channel.number : m_choices[Name].text;
     channel.icon = pictureAddress(m_choices[Icon].text, m_folder);
+    channel.quality = channelQuality(channel.name, {});
     if (channel.id.isEmpty())
         problem(QStringLiteral("a channel without id is left out"));
     else

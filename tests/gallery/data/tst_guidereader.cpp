@@ -33,6 +33,7 @@ private Q_SLOTS:
     void programmesThatDifferInOneTextAreBothThere();
     void aProgrammeWithoutChannelElementMakesItsChannel();
     void aChannelWithoutProgrammesIsThere();
+    void theNameOfAChannelTellsItsQuality();
     void aChannelThatComesAfterItsProgrammesNamesThem();
     void aSecondChannelElementFillsInWhatTheFirstLacks();
     void aProgrammeWithAnInvalidStartIsCountedAndReportedWithItsPlace();
@@ -259,6 +260,15 @@ void TestGuideReader::aChannelWithoutProgrammesIsThere()
     QCOMPARE(report.guide.previousProgramme(0, 0), -1);
     QCOMPARE(report.guide.programmesIn(0, { 0, 86400 }), QList<int>());
     QCOMPARE(report.guide.timeSpan(), TimeSpan());
+}
+
+void TestGuideReader::theNameOfAChannelTellsItsQuality()
+{
+    const GuideReport report = read(tv(R"(<channel id="c"><display-name>One HD</display-name></channel>
+        <channel id="d"><display-name>Two</display-name></channel>)"));
+    QCOMPARE(report.guide.channel(0).name, QStringLiteral("One HD"));
+    QCOMPARE(report.guide.channel(0).quality, QStringLiteral("HD"));
+    QCOMPARE(report.guide.channel(1).quality, QString());
 }
 
 void TestGuideReader::aChannelThatComesAfterItsProgrammesNamesThem()
