@@ -4,7 +4,6 @@
 #include "app/keyrun.h"
 #include "app/languages.h"
 #include "gallery/data/catalogueloader.h"
-#include "gallery/data/ownguide.h"
 #include "screens/pictureprovider.h"
 #include "screens/shellcontroller.h"
 
@@ -180,7 +179,7 @@ void Application::loadGuide()
     connect(guide, &GuideController::guideShown, this, &Application::finishLoading,
             Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
     if (m_options.guideFile.isEmpty() && m_options.playlistFile.isEmpty()) {
-        guide->setGuide(ownGuide(m_shell->clock()->now(), m_language));
+        guide->showOwnGuide(m_language);
         return;
     }
     guide->load({ m_options.guideFile, m_options.playlistFile, m_language, m_shell->clock()->now() });

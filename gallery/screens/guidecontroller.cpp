@@ -2,6 +2,7 @@
 #include "screens/guidecontroller.h"
 
 #include "gallery/data/clock.h"
+#include "gallery/data/ownguide.h"
 #include "screens/remotekey.h"
 
 #include <QtCore/qcoreapplication.h>
@@ -22,7 +23,7 @@ GuideController::GuideController(Clock *clock, QObject *parent)
     connect(&m_loader, &GuideLoader::progressChanged, this, &GuideController::loadProgressChanged);
     connect(&m_loader, &GuideLoader::finished, this, [this] {
         Q_EMIT messageChanged();
-        setGuide(m_loader.guide());
+        take(m_loader.guide());
     });
 }
 
@@ -37,7 +38,38 @@ void GuideController::setReminders(Reminders *reminders)
     Q_EMIT messageChanged();
 }
 
+void GuideController::load(const GuideFiles &files)
+{
+    m_files = files;
+    m_showsOwnGuide = files.guide.isEmpty();
+    m_loader.load(files);
+}
+
+void GuideController::showOwnGuide(const QString &language)
+{
+    m_files = { {}, {}, language, {} };
+    m_showsOwnGuide = true;
+    take(ownGuide(m_clock->now(), language));
+}
+
 void GuideController::setGuide(const Guide &guide)
+{
+    m_showsOwnGuide = false;
+    take(guide);
+}
+
+void GuideController::renewOwnGuide()
+{
+    if (!m_showsOwnGuide)
+        return;
+    m_files.now = m_clock->now();
+    if (m_files.playlist.isEmpty())
+        take(ownGuide(m_files.now, m_files.language));
+    else
+        m_loader.load(m_files);
+}
+
+void GuideController::take(const Guide &guide)
 {
     const Kept before = kept();
     const bool again = m_channelRow >= 0;
@@ -342,8 +374,10 @@ void GuideController::tick()
     const QDateTime now = m_clock->now();
     m_channels.setNow(now);
     m_programmes.setNow(now);
-    if (m_days.today() != now.date())
+    if (m_days.today() != now.date()) {
         moveToday(now.date());
+        renewOwnGuide();
+    }
     // A time that was only made up must not cost the viewer's reminders.
     if (m_reminders != nullptr && !m_clock->isFixed())
         m_reminders->dropExpired(now);

@@ -105,8 +105,13 @@ public:
     /*! \a clock tells the present and must outlive this object. */
     explicit GuideController(Clock *clock, QObject *parent = nullptr);
 
-    /*! Reads \a files and shows the guide that they make; see GuideLoader. */
-    void load(const GuideFiles &files) { m_loader.load(files); }
+    /*!
+        Reads \a files and shows the guide that they make; see GuideLoader. Without a guide file they are read again when
+        a new day begins, since the own guide lies around the present one.
+    */
+    void load(const GuideFiles &files);
+    /*! Shows the own guide in \a language, and on each new day the one that lies around it. */
+    void showOwnGuide(const QString &language);
     /*!
         Shows \a guide: the first time as start() does. Later the chosen channel stays chosen, found by its id (without
         it the channel that has its place now), and so do the day and the programme, found by start and title, else by
@@ -213,6 +218,8 @@ private:
         QDateTime start;
     };
 
+    void take(const Guide &guide);
+    void renewOwnGuide();
     QVariant chosen(ProgrammeModel::Role role) const;
     QString channelNameAt(int row) const;
     QString channelNameBeside(int key) const;
@@ -251,6 +258,8 @@ private:
     GuideProgrammeModel m_programmes;
     DayModel m_days;
     QPointer<Reminders> m_reminders;
+    GuideFiles m_files; // what the own guide is made with; of no interest when another one is shown
+    bool m_showsOwnGuide = false;
     QDateTime m_anchor; // the time that a change of channel keeps
     QTime m_timeOfDay; // of the anchor; a day on which the clocks change does not change it
     QString m_notice;

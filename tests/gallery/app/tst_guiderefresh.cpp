@@ -7,6 +7,7 @@
 #include "screens/guidecontroller.h"
 
 #include <QtCore/qrandom.h>
+#include <QtCore/qtemporaryfile.h>
 #include <QtTest/qsignalspy.h>
 
 using gallery::GuideController;
@@ -71,6 +72,52 @@ private Q_SLOTS:
         QCOMPARE(m_guide->programmeRow(), 3);
         QCOMPARE(m_guide->title(), "Third");
         QCOMPARE(resets.count(), 1);
+    }
+
+    void onANewDayTheOwnGuideLiesAroundIt()
+    {
+        m_clock = std::make_unique<gallery::Clock>();
+        m_clock->setFixed(guides::at(23, 59));
+        m_guide = std::make_unique<GuideController>(m_clock.get());
+        m_guide->showOwnGuide("en");
+        press({ Qt::Key_Right });
+        const QString channel = m_guide->channelName();
+        const gallery::TimeSpan before = m_guide->shownGuide().timeSpan();
+        m_clock->setFixed(guides::at(23, 59).addSecs(50));
+        QCOMPARE(m_guide->shownGuide().timeSpan(), before);
+        m_clock->setFixed(guides::at(23, 59).addSecs(120));
+        QVERIFY(m_guide->shownGuide().timeSpan().stop > before.stop);
+        QVERIFY(m_guide->shownGuide().timeSpan().start > before.start);
+        QCOMPARE(m_guide->channelName(), channel);
+        QVERIFY(m_guide->isLive());
+    }
+
+    void onANewDayAPlaylistShowsTheOwnGuideAroundIt()
+    {
+        QTemporaryFile playlist;
+        QVERIFY(playlist.open());
+        playlist.write("#EXTM3U\n#EXTINF:-1 tvg-id=\"news\" tvg-name=\"News\",My news\nhttp://a\n");
+        playlist.close();
+        m_clock = std::make_unique<gallery::Clock>();
+        m_clock->setFixed(guides::at(12, 0));
+        m_guide = std::make_unique<GuideController>(m_clock.get());
+        m_guide->load({ {}, playlist.fileName(), "en", m_clock->now() });
+        QTRY_COMPARE(m_guide->channelName(), "My news");
+        const gallery::TimeSpan before = m_guide->shownGuide().timeSpan();
+        QVERIFY(before.stop > before.start);
+        m_clock->setFixed(guides::at(12, 0).addDays(1));
+        QTRY_VERIFY(m_guide->shownGuide().timeSpan().stop > before.stop);
+        QCOMPARE(m_guide->channelName(), "My news");
+    }
+
+    void anotherGuideStaysOnANewDay()
+    {
+        setUp();
+        m_guide->showOwnGuide("en");
+        const gallery::Guide guide = guides::five();
+        m_guide->setGuide(guide);
+        m_clock->setFixed(guides::at(20, 5).addDays(1));
+        QVERIFY(m_guide->shownGuide().isSameAs(guide));
     }
 
     void aProgrammeIsFoundByItsTitleWhenItIsMovedByUpToAnHour()
