@@ -71,6 +71,25 @@ QtObject {
         base: QmlDesignSystem.playerEpgDateStyle
         color: Look.textOnFocus
     }
+    // Of a check box or radio button on the focus plate.
+    readonly property CheckBoxQmlStyle focusedCheckBox: CheckBoxQmlStyle {
+        readonly property CheckBoxQmlStyle base: QmlDesignSystem.standardCheckBoxStyle
+
+        roundingRadius: base.roundingRadius
+        icon.path: base.icon.path
+        icon.size: base.icon.size
+        title.font: base.title.font
+        spacing: base.spacing
+        iconStates: base.iconStates
+        indicator.normal: Look.textOnFocus
+        indicator.checked: base.indicator.checked
+        indicator.disabled: base.indicator.disabled
+        indicator.focused: Look.textOnFocus
+        titleStates.normal: Look.textOnFocus
+        titleStates.checked: Look.textOnFocus
+        titleStates.disabled: base.titleStates.disabled
+        titleStates.focused: Look.textOnFocus
+    }
     // Of the row of channels that has the focus.
     readonly property PlayerTvChannelItemQmlStyle focusedChannel: FocusedChannelStyle {
         base: QmlDesignSystem.playerTvChannelItemStyle

@@ -64,5 +64,21 @@ FocusScope {
             guide: shell.controller.guide
         }
     }
+    ScreenLoader {
+        controller: shell.controller
+        name: "settings"
+        sourceComponent: SettingsScreen {
+            settings: shell.controller.settings
+            guide: shell.controller.guide
+        }
+    }
+    ScreenLoader {
+        controller: shell.controller
+        name: "about"
+        sourceComponent: AboutScreen {
+            about: shell.controller.about
+            guide: shell.controller.guide
+        }
+    }
     // qmllint enable unqualified
 }

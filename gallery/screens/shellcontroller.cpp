@@ -13,6 +13,8 @@ constexpr QLatin1StringView seriesScreen = "series"_L1;
 constexpr QLatin1StringView guideScreen = "guide"_L1;
 constexpr QLatin1StringView channelsScreen = "channels"_L1;
 constexpr QLatin1StringView playerScreen = "player"_L1;
+constexpr QLatin1StringView settingsScreen = "settings"_L1;
+constexpr QLatin1StringView aboutScreen = "about"_L1;
 
 } // namespace
 
@@ -25,6 +27,7 @@ ShellController::ShellController(const QString &remindersFile, QObject *parent)
     , m_channels(&m_clock)
     , m_player(&m_clock, &m_favourites)
     , m_series(&m_clock)
+    , m_about(&m_settings)
     , m_open({ homeScreen })
 {
     m_guide.setReminders(&m_reminders);
@@ -64,11 +67,14 @@ void ShellController::connectScreens()
     });
     connect(&m_player, &PlayerController::leaveRequested, this, &ShellController::goBack);
     connect(&m_series, &SeriesController::backRequested, this, &ShellController::goBack);
+    connect(&m_settings, &SettingsController::leaveRequested, this, &ShellController::goBack);
+    connect(&m_about, &AboutController::leaveRequested, this, &ShellController::goBack);
 }
 
 QStringList ShellController::screenNames()
 {
-    return { homeScreen, detailScreen, seriesScreen, guideScreen, channelsScreen, playerScreen };
+    return { homeScreen,     detailScreen, seriesScreen,   guideScreen,
+             channelsScreen, playerScreen, settingsScreen, aboutScreen };
 }
 
 void ShellController::setMirrored(bool mirrored)
@@ -82,6 +88,7 @@ void ShellController::setMirrored(bool mirrored)
     m_channels.setMirrored(mirrored);
     m_player.setMirrored(mirrored);
     m_series.setMirrored(mirrored);
+    m_settings.setMirrored(mirrored);
     Q_EMIT mirroredChanged();
 }
 
@@ -91,6 +98,8 @@ void ShellController::start(const QString &screen)
     m_home.start();
     m_guide.start();
     m_channels.start();
+    m_settings.start();
+    m_about.start();
     Q_EMIT screenChanged();
     if (screen == detailScreen) {
         m_home.chooseFirstVideo();

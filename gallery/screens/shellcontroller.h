@@ -4,6 +4,7 @@
 
 #include "gallery/data/clock.h"
 #include "gallery/data/reminders.h"
+#include "screens/aboutcontroller.h"
 #include "screens/channelscontroller.h"
 #include "screens/detailcontroller.h"
 #include "screens/guidecontroller.h"
@@ -11,6 +12,7 @@
 #include "screens/marks.h"
 #include "screens/playercontroller.h"
 #include "screens/seriescontroller.h"
+#include "screens/settingscontroller.h"
 
 #include <QtCore/qstringlist.h>
 
@@ -29,6 +31,8 @@ class ShellController : public QObject
     Q_PROPERTY(gallery::ChannelsController *channels READ channels CONSTANT)
     Q_PROPERTY(gallery::PlayerController *player READ player CONSTANT)
     Q_PROPERTY(gallery::SeriesController *series READ series CONSTANT)
+    Q_PROPERTY(gallery::SettingsController *settings READ settings CONSTANT)
+    Q_PROPERTY(gallery::AboutController *about READ about CONSTANT)
     /*! The name of the screen that is shown. */
     Q_PROPERTY(QString screen READ screen NOTIFY screenChanged)
     /*! The names of the screens that are open, the one that is shown last. */
@@ -41,7 +45,7 @@ public:
     /*! \a remindersFile keeps the reminders; empty: they are kept for this run only. */
     explicit ShellController(const QString &remindersFile = {}, QObject *parent = nullptr);
 
-    /*! The names of the screens: "home", "detail", "series", "guide", "channels", "player". */
+    /*! The names of the screens: "home", "detail", "series", "guide", "channels", "player", "settings", "about". */
     static QStringList screenNames();
 
     Clock *clock() { return &m_clock; }
@@ -51,6 +55,8 @@ public:
     ChannelsController *channels() { return &m_channels; }
     PlayerController *player() { return &m_player; }
     SeriesController *series() { return &m_series; }
+    SettingsController *settings() { return &m_settings; }
+    AboutController *about() { return &m_about; }
 
     QString screen() const { return m_open.constLast(); }
     QStringList openScreens() const { return m_open; }
@@ -98,6 +104,8 @@ private:
     ChannelsController m_channels;
     PlayerController m_player;
     SeriesController m_series;
+    SettingsController m_settings;
+    AboutController m_about;
     QStringList m_open;
     bool m_mirrored = false;
 };

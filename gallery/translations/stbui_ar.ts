@@ -2,6 +2,86 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ar_AE" sourcelanguage="en">
 <context>
+    <name>AboutScreen</name>
+    <message>
+        <source>About</source>
+        <translation>حول البرنامج</translation>
+    </message>
+    <message>
+        <source>Gallery</source>
+        <translation>المعرض</translation>
+    </message>
+    <message>
+        <source>Controls</source>
+        <translation>عناصر التحكم</translation>
+    </message>
+    <message>
+        <source>Qt</source>
+        <translation>Qt</translation>
+    </message>
+    <message>
+        <source>Renderer</source>
+        <translation>العرض</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>الدقة</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>السمة</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>اللغة</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>الخط</translation>
+    </message>
+    <message>
+        <source>Pictures and texts</source>
+        <translation>الصور والنصوص</translation>
+    </message>
+    <message>
+        <source>Icons, pictures and logos were drawn for this project. They and the texts of the own guide and catalogue have its licence. What comes from other files belongs to their authors.</source>
+        <translation>رُسمت الأيقونات والصور والشعارات لهذا المشروع، وتسري رخصته عليها وعلى نصوص الدليل والفهرس الخاصين به. أما ما يأتي من ملفات أخرى فهو لأصحابها.</translation>
+    </message>
+    <message>
+        <source>The gallery brings no fonts; it uses those of the device.</source>
+        <translation>لا يتضمن المعرض خطوطًا، بل يستخدم خطوط الجهاز.</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>الرخصة</translation>
+    </message>
+    <message>
+        <source>Scroll</source>
+        <translation>تمرير</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>رجوع</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>خروج</translation>
+    </message>
+    <message>
+        <source>%1, built with %2</source>
+        <translation>%1، بُني باستخدام %2</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>برمجي</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>غير معروف</translation>
+    </message>
+</context>
+<context>
     <name>ChannelFacts</name>
     <message>
         <source>Nothing is known of what is on</source>
@@ -552,6 +632,118 @@
     <message>
         <source>Leave</source>
         <translation>مغادرة</translation>
+    </message>
+</context>
+<context>
+    <name>Settings</name>
+    <message>
+        <source>Resolution</source>
+        <translation>الدقة</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>فاتحة</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>تباين عالٍ</translation>
+    </message>
+    <message>
+        <source>Copper</source>
+        <translation>نحاسية</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>قياسية</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>السمة</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>حجم النص</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Rounded corners</source>
+        <translation>زوايا مستديرة</translation>
+    </message>
+    <message>
+        <source>The focus grows</source>
+        <translation>تكبير العنصر المحدد</translation>
+    </message>
+    <message>
+        <source>Lists scroll</source>
+        <translation>تمرير القوائم</translation>
+    </message>
+    <message>
+        <source>Pages scroll</source>
+        <translation>تمرير الصفحات</translation>
+    </message>
+    <message>
+        <source>Pictures fade in</source>
+        <translation>ظهور الصور تدريجيًا</translation>
+    </message>
+    <message>
+        <source>Panels slide in</source>
+        <translation>انزلاق اللوحات</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>الشاشة</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>اللغة</translation>
+    </message>
+    <message>
+        <source>Look</source>
+        <translation>المظهر</translation>
+    </message>
+    <message>
+        <source>Movement</source>
+        <translation>الحركة</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsScreen</name>
+    <message>
+        <source>Settings</source>
+        <translation>الإعدادات</translation>
+    </message>
+    <message>
+        <source>This could not be stored: it holds until you leave</source>
+        <translation>تعذّر الحفظ: يسري حتى الخروج</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>تنقّل</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Choose</source>
+        <translation>اختيار</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>تغيير</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>رجوع</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>خروج</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,86 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
+    <name>AboutScreen</name>
+    <message>
+        <source>About</source>
+        <translation>Über dieses Programm</translation>
+    </message>
+    <message>
+        <source>Gallery</source>
+        <translation>Galerie</translation>
+    </message>
+    <message>
+        <source>Controls</source>
+        <translation>Bedienelemente</translation>
+    </message>
+    <message>
+        <source>Qt</source>
+        <translation>Qt</translation>
+    </message>
+    <message>
+        <source>Renderer</source>
+        <translation>Darstellung</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Farbschema</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source>Pictures and texts</source>
+        <translation>Bilder und Texte</translation>
+    </message>
+    <message>
+        <source>Icons, pictures and logos were drawn for this project. They and the texts of the own guide and catalogue have its licence. What comes from other files belongs to their authors.</source>
+        <translation>Symbole, Bilder und Logos wurden für dieses Projekt gezeichnet. Für sie und die Texte des eigenen Programms und Katalogs gilt seine Lizenz. Was aus anderen Dateien kommt, gehört deren Urhebern.</translation>
+    </message>
+    <message>
+        <source>The gallery brings no fonts; it uses those of the device.</source>
+        <translation>Die Galerie bringt keine Schriften mit; sie nutzt die des Geräts.</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>Lizenz</translation>
+    </message>
+    <message>
+        <source>Scroll</source>
+        <translation>Blättern</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>ZURÜCK</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Verlassen</translation>
+    </message>
+    <message>
+        <source>%1, built with %2</source>
+        <translation>%1, gebaut mit %2</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>Software</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+</context>
+<context>
     <name>ChannelFacts</name>
     <message>
         <source>Nothing is known of what is on</source>
@@ -543,6 +623,118 @@
     <message>
         <source>Watch</source>
         <translation>Ansehen</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>ZURÜCK</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Verlassen</translation>
+    </message>
+</context>
+<context>
+    <name>Settings</name>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>Hoher Kontrast</translation>
+    </message>
+    <message>
+        <source>Copper</source>
+        <translation>Kupfer</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Farbschema</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Textgröße</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Rounded corners</source>
+        <translation>Runde Ecken</translation>
+    </message>
+    <message>
+        <source>The focus grows</source>
+        <translation>Auswahl wächst</translation>
+    </message>
+    <message>
+        <source>Lists scroll</source>
+        <translation>Listen rollen</translation>
+    </message>
+    <message>
+        <source>Pages scroll</source>
+        <translation>Seiten rollen</translation>
+    </message>
+    <message>
+        <source>Pictures fade in</source>
+        <translation>Bilder blenden ein</translation>
+    </message>
+    <message>
+        <source>Panels slide in</source>
+        <translation>Leisten gleiten herein</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Look</source>
+        <translation>Aussehen</translation>
+    </message>
+    <message>
+        <source>Movement</source>
+        <translation>Bewegung</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsScreen</name>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>This could not be stored: it holds until you leave</source>
+        <translation>Nicht gespeichert: gilt bis zum Verlassen</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Bewegen</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Choose</source>
+        <translation>Wählen</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Ändern</translation>
     </message>
     <message>
         <source>BACK</source>

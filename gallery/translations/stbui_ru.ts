@@ -2,6 +2,86 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU" sourcelanguage="en">
 <context>
+    <name>AboutScreen</name>
+    <message>
+        <source>About</source>
+        <translation>О программе</translation>
+    </message>
+    <message>
+        <source>Gallery</source>
+        <translation>Галерея</translation>
+    </message>
+    <message>
+        <source>Controls</source>
+        <translation>Элементы управления</translation>
+    </message>
+    <message>
+        <source>Qt</source>
+        <translation>Qt</translation>
+    </message>
+    <message>
+        <source>Renderer</source>
+        <translation>Отрисовка</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Разрешение</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Тема</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Язык</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Шрифт</translation>
+    </message>
+    <message>
+        <source>Pictures and texts</source>
+        <translation>Изображения и тексты</translation>
+    </message>
+    <message>
+        <source>Icons, pictures and logos were drawn for this project. They and the texts of the own guide and catalogue have its licence. What comes from other files belongs to their authors.</source>
+        <translation>Значки, изображения и логотипы нарисованы для этого проекта. На них и на тексты собственной программы передач и каталога распространяется его лицензия. Содержимое других файлов принадлежит их авторам.</translation>
+    </message>
+    <message>
+        <source>The gallery brings no fonts; it uses those of the device.</source>
+        <translation>Своих шрифтов у галереи нет: она использует шрифты устройства.</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>Лицензия</translation>
+    </message>
+    <message>
+        <source>Scroll</source>
+        <translation>Прокрутка</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>НАЗАД</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Выйти</translation>
+    </message>
+    <message>
+        <source>%1, built with %2</source>
+        <translation>%1, собрано с %2</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>Программная</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Неизвестно</translation>
+    </message>
+</context>
+<context>
     <name>ChannelFacts</name>
     <message>
         <source>Nothing is known of what is on</source>
@@ -543,6 +623,118 @@
     <message>
         <source>Watch</source>
         <translation>Смотреть</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>НАЗАД</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Выйти</translation>
+    </message>
+</context>
+<context>
+    <name>Settings</name>
+    <message>
+        <source>Resolution</source>
+        <translation>Разрешение</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Светлая</translation>
+    </message>
+    <message>
+        <source>High contrast</source>
+        <translation>Высокая контрастность</translation>
+    </message>
+    <message>
+        <source>Copper</source>
+        <translation>Медь</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Стандартная</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Тема</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Размер текста</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Rounded corners</source>
+        <translation>Скруглённые углы</translation>
+    </message>
+    <message>
+        <source>The focus grows</source>
+        <translation>Плавный рост выделенного</translation>
+    </message>
+    <message>
+        <source>Lists scroll</source>
+        <translation>Плавная прокрутка списков</translation>
+    </message>
+    <message>
+        <source>Pages scroll</source>
+        <translation>Плавная прокрутка страниц</translation>
+    </message>
+    <message>
+        <source>Pictures fade in</source>
+        <translation>Плавное появление картинок</translation>
+    </message>
+    <message>
+        <source>Panels slide in</source>
+        <translation>Выезжающие панели</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Экран</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Язык</translation>
+    </message>
+    <message>
+        <source>Look</source>
+        <translation>Вид</translation>
+    </message>
+    <message>
+        <source>Movement</source>
+        <translation>Анимация</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsScreen</name>
+    <message>
+        <source>Settings</source>
+        <translation>Настройки</translation>
+    </message>
+    <message>
+        <source>This could not be stored: it holds until you leave</source>
+        <translation>Не удалось сохранить: действует до выхода</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Перейти</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Choose</source>
+        <translation>Выбрать</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Изменить</translation>
     </message>
     <message>
         <source>BACK</source>

@@ -237,8 +237,8 @@ private Q_SLOTS:
 
     void everyScreenCanBeNamed()
     {
-        QCOMPARE(gallery::screenNames(),
-                 (QStringList { "home", "detail", "series", "guide", "channels", "player" }));
+        QCOMPARE(gallery::screenNames(), (QStringList { "home", "detail", "series", "guide", "channels",
+                                                        "player", "settings", "about" }));
         for (const QString &name : gallery::screenNames())
             QCOMPARE(parse({ "--screen", name }).options.screen, name);
     }

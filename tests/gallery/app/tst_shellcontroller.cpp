@@ -52,8 +52,22 @@ private Q_SLOTS:
         m->start("player");
         QCOMPARE(m->openScreens(), (QStringList { "home", "player" }));
         QCOMPARE(m->player()->title(), "A40");
+        for (const QString screen : { "settings", "about" }) {
+            m->start(screen);
+            QCOMPARE(m->openScreens(), (QStringList { "home", screen }));
+        }
         m->start("home");
         QCOMPARE(m->openScreens(), QStringList { "home" });
+    }
+
+    void backLeadsOutOfTheSettingsAndOfWhatTheProgramTellsOfItself()
+    {
+        m->start("settings");
+        m->settings()->press(Qt::Key_Back);
+        QCOMPARE(m->screen(), "home");
+        m->start("about");
+        m->about()->press(Qt::Key_Back);
+        QCOMPARE(m->screen(), "home");
     }
 
     void theDetailPageStartsWithTheFirstFilm()
@@ -312,7 +326,7 @@ private Q_SLOTS:
         QCOMPARE(changes.count(), 1);
         QVERIFY(m->home()->isMirrored() && m->detail()->isMirrored() && m->guide()->isMirrored());
         QVERIFY(m->channels()->isMirrored());
-        QVERIFY(m->player()->isMirrored() && m->series()->isMirrored());
+        QVERIFY(m->player()->isMirrored() && m->series()->isMirrored() && m->settings()->isMirrored());
     }
 
     void aStartBringsTheGuideBackToWhatIsOn()
