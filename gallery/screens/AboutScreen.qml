@@ -43,7 +43,7 @@ FocusScope {
         objectName: "focusFrame"
         anchors.fill: view
         anchors.margins: -Look.medium
-        color: Look.surface
+        color: Look.backdrop
         radius: Look.radius
         border.width: Look.frame
         border.color: Look.focus
@@ -126,6 +126,15 @@ FocusScope {
                 LayoutMirroring.enabled: false
                 horizontalAlignment: Text.AlignLeft
             }
+        }
+        EdgeFade {
+            anchors.top: parent.top
+            visible: screen.about.position > 0
+        }
+        EdgeFade {
+            anchors.bottom: parent.bottom
+            rotation: 180
+            visible: screen.about.position < text.height - view.height
         }
         ScrollBar {
             anchors.top: parent.top

@@ -73,21 +73,19 @@ QtObject {
     }
     // Of a check box or radio button on the focus plate.
     readonly property CheckBoxQmlStyle focusedCheckBox: CheckBoxQmlStyle {
-        readonly property CheckBoxQmlStyle base: QmlDesignSystem.standardCheckBoxStyle
-
-        roundingRadius: base.roundingRadius
-        icon.path: base.icon.path
-        icon.size: base.icon.size
-        title.font: base.title.font
-        spacing: base.spacing
-        iconStates: base.iconStates
+        roundingRadius: QmlDesignSystem.standardCheckBoxStyle.roundingRadius
+        icon.path: QmlDesignSystem.standardCheckBoxStyle.icon.path
+        icon.size: QmlDesignSystem.standardCheckBoxStyle.icon.size
+        title.font: QmlDesignSystem.standardCheckBoxStyle.title.font
+        spacing: QmlDesignSystem.standardCheckBoxStyle.spacing
+        iconStates: QmlDesignSystem.standardCheckBoxStyle.iconStates
         indicator.normal: Look.textOnFocus
-        indicator.checked: base.indicator.checked
-        indicator.disabled: base.indicator.disabled
+        indicator.checked: QmlDesignSystem.standardCheckBoxStyle.indicator.checked
+        indicator.disabled: QmlDesignSystem.standardCheckBoxStyle.indicator.disabled
         indicator.focused: Look.textOnFocus
         titleStates.normal: Look.textOnFocus
         titleStates.checked: Look.textOnFocus
-        titleStates.disabled: base.titleStates.disabled
+        titleStates.disabled: QmlDesignSystem.standardCheckBoxStyle.titleStates.disabled
         titleStates.focused: Look.textOnFocus
     }
     // Of the row of channels that has the focus.

@@ -74,6 +74,7 @@ Item {
         position: view.position / sections.height
     }
 
+    // qmllint disable unqualified
     Component {
         id: value
 
@@ -128,4 +129,5 @@ Item {
             }
         }
     }
+    // qmllint enable unqualified
 }

@@ -223,7 +223,7 @@ void SettingsController::choose(int row)
     if (row < 0 || row >= all.size())
         return;
     focusRow(row);
-    const SettingsRow chosen = all.at(row);
+    const SettingsRow &chosen = all.at(row);
     const QString before = m_store->value(chosen.group, chosen.key, {}).toString();
     const bool isSwitch = chosen.value.typeId() == QMetaType::Bool;
     // A stored value that only counts as the chosen one is replaced by it.

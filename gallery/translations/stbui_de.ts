@@ -5,7 +5,7 @@
     <name>AboutScreen</name>
     <message>
         <source>About</source>
-        <translation>Über dieses Programm</translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>Gallery</source>
