@@ -11,8 +11,8 @@
 class RecordingStore : public gallery::SettingsStore
 {
 public:
-    explicit RecordingStore(const QMap<QString, QVariant> &values = {})
-        : values(values)
+    explicit RecordingStore(const QMap<QString, QVariant> &stored = {})
+        : values(stored)
     {
     }
     QVariant value(const QString &group, const QString &key, const QVariant &defaultValue) const override
@@ -24,6 +24,13 @@ public:
         values.insert(group + u'/' + key, value);
         written.append(group + u'/' + key + u'=' + value.toString());
         return !full;
+    }
+
+    void clear()
+    {
+        values.clear();
+        written.clear();
+        full = false;
     }
 
     QMap<QString, QVariant> values;

@@ -21,7 +21,7 @@ class tst_AboutScreen : public ScreenTest
         options.language = language;
         options.resolution = resolution;
         ScreenTest::start(options);
-        m_store = RecordingStore();
+        m_store.clear();
         shell()->settings()->setStore(&m_store);
         shell()->start("about");
         settle();

@@ -64,7 +64,7 @@ private Q_SLOTS:
     void init()
     {
         TestCase::init();
-        m_store = RecordingStore();
+        m_store.clear();
         m = std::make_unique<SettingsController>();
         m->setStore(&m_store);
     }

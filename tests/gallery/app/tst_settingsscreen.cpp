@@ -16,7 +16,7 @@ class tst_SettingsScreen : public ScreenTest
         options.language = language;
         options.resolution = resolution;
         ScreenTest::start(options);
-        m_store = RecordingStore();
+        m_store.clear();
         // The controller's own store: this test writes to no configuration.
         settings()->setStore(&m_store);
         shell()->start("settings");
