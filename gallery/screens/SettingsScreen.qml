@@ -57,6 +57,7 @@ FocusScope {
                 focus: checked && !screen.settings.inValues
                 onActiveFocusChanged: if (activeFocus) screen.settings.focusGroup(index)
                 onClicked: screen.settings.open(index)
+                Accessible.onPressAction: screen.settings.open(index)
             }
             // qmllint enable unqualified
         }

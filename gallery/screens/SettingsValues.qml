@@ -74,6 +74,7 @@ Item {
         position: view.position / sections.height
     }
 
+    // A row of the group before, which goes a little later than the group, has no parent and no value any more.
     // qmllint disable unqualified
     Component {
         id: value
@@ -82,18 +83,21 @@ Item {
             id: radio
 
             required property var modelData
-            readonly property bool chosen: view.settings.inValues && view.settings.row === modelData.row
+            readonly property bool chosen: parent !== null && view.settings.inValues
+                                           && view.settings.row === modelData.row
 
             objectName: "value"
             width: parent.width
             padding: Look.small
             text: modelData.title
-            checked: view.settings.checked[modelData.row]
+            checked: view.settings.checked[modelData.row] === true
             style: activeFocus ? Look.focusedCheckBox : QmlDesignSystem.standardCheckBoxStyle
             focus: chosen
             onChosenChanged: if (chosen) view.current = radio
             onActiveFocusChanged: if (activeFocus) view.settings.focusRow(modelData.row)
             onClicked: view.settings.choose(modelData.row)
+            Accessible.onPressAction: view.settings.choose(modelData.row)
+            Accessible.onToggleAction: view.settings.choose(modelData.row)
 
             FocusPlate {
                 z: -1
@@ -109,18 +113,21 @@ Item {
             id: check
 
             required property var modelData
-            readonly property bool chosen: view.settings.inValues && view.settings.row === modelData.row
+            readonly property bool chosen: parent !== null && view.settings.inValues
+                                           && view.settings.row === modelData.row
 
             objectName: "value"
             width: parent.width
             padding: Look.small
             text: modelData.title
-            checked: view.settings.checked[modelData.row]
+            checked: view.settings.checked[modelData.row] === true
             style: activeFocus ? Look.focusedCheckBox : QmlDesignSystem.standardCheckBoxStyle
             focus: chosen
             onChosenChanged: if (chosen) view.current = check
             onActiveFocusChanged: if (activeFocus) view.settings.focusRow(modelData.row)
             onClicked: view.settings.choose(modelData.row)
+            Accessible.onPressAction: view.settings.choose(modelData.row)
+            Accessible.onToggleAction: view.settings.choose(modelData.row)
 
             FocusPlate {
                 z: -1

@@ -260,6 +260,16 @@ private Q_SLOTS:
         QCOMPARE(m_store.written, QStringList { "UI/theme=:/stbui/design/themes/contrast.json" });
         QCOMPARE(focusedText(), "High contrast");
         QCOMPARE(focusProblem(), QString());
+        QCOMPARE(checkedTexts().at(1), "High contrast");
+        QAccessibleInterface *group = QAccessible::queryAccessibleInterface(items("group").constLast());
+        group->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        settle();
+        QCOMPARE(focusedText(), "The focus grows");
+        value = QAccessible::queryAccessibleInterface(items("value").at(3));
+        value->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+        settle();
+        QCOMPARE(m_store.written.constLast(), "Animations/fadeEffectEnabled=false");
+        QCOMPARE(checkedTexts().size(), 4);
         QAccessible::setActive(false);
     }
 
