@@ -74,7 +74,7 @@ Item {
         position: view.position / sections.height
     }
 
-    // A row of the group before, which goes a little later than the group, has no parent and no value any more.
+    // A row of the group before goes a little later than its group, and has no value any more meanwhile.
     // qmllint disable unqualified
     Component {
         id: value
@@ -83,8 +83,7 @@ Item {
             id: radio
 
             required property var modelData
-            readonly property bool chosen: parent !== null && view.settings.inValues
-                                           && view.settings.row === modelData.row
+            readonly property bool chosen: view.settings.inValues && view.settings.row === modelData.row
 
             objectName: "value"
             width: parent.width
@@ -113,8 +112,7 @@ Item {
             id: check
 
             required property var modelData
-            readonly property bool chosen: parent !== null && view.settings.inValues
-                                           && view.settings.row === modelData.row
+            readonly property bool chosen: view.settings.inValues && view.settings.row === modelData.row
 
             objectName: "value"
             width: parent.width
