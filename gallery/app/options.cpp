@@ -31,7 +31,7 @@ constexpr OptionText catalogueOption { "catalogue"_L1, "Films and series to show
 constexpr OptionText nowOption { "now"_L1, "Take this ISO 8601 time for the present."_L1, "date-time"_L1 };
 constexpr OptionText screenOption { "screen"_L1,
                                     "Screen to show: home, detail, series, guide, channels, player, "
-                                    "settings or about."_L1,
+                                    "settings, components or about."_L1,
                                     "name"_L1 };
 constexpr OptionText keysOption { "keys"_L1, "Press these remote keys at start: \"Down Down Return\"."_L1,
                                   "keys"_L1 };

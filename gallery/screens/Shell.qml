@@ -74,6 +74,14 @@ FocusScope {
     }
     ScreenLoader {
         controller: shell.controller
+        name: "components"
+        sourceComponent: ComponentsScreen {
+            components: shell.controller.components
+            guide: shell.controller.guide
+        }
+    }
+    ScreenLoader {
+        controller: shell.controller
         name: "about"
         sourceComponent: AboutScreen {
             about: shell.controller.about

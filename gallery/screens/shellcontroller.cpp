@@ -14,6 +14,7 @@ constexpr QLatin1StringView guideScreen = "guide"_L1;
 constexpr QLatin1StringView channelsScreen = "channels"_L1;
 constexpr QLatin1StringView playerScreen = "player"_L1;
 constexpr QLatin1StringView settingsScreen = "settings"_L1;
+constexpr QLatin1StringView componentsScreen = "components"_L1;
 constexpr QLatin1StringView aboutScreen = "about"_L1;
 
 } // namespace
@@ -68,13 +69,14 @@ void ShellController::connectScreens()
     connect(&m_player, &PlayerController::leaveRequested, this, &ShellController::goBack);
     connect(&m_series, &SeriesController::backRequested, this, &ShellController::goBack);
     connect(&m_settings, &SettingsController::leaveRequested, this, &ShellController::goBack);
+    connect(&m_components, &ComponentsController::leaveRequested, this, &ShellController::goBack);
     connect(&m_about, &AboutController::leaveRequested, this, &ShellController::goBack);
 }
 
 QStringList ShellController::screenNames()
 {
-    return { homeScreen,     detailScreen, seriesScreen,   guideScreen,
-             channelsScreen, playerScreen, settingsScreen, aboutScreen };
+    return { homeScreen,   detailScreen,   seriesScreen,     guideScreen, channelsScreen,
+             playerScreen, settingsScreen, componentsScreen, aboutScreen };
 }
 
 void ShellController::setMirrored(bool mirrored)
@@ -89,6 +91,7 @@ void ShellController::setMirrored(bool mirrored)
     m_player.setMirrored(mirrored);
     m_series.setMirrored(mirrored);
     m_settings.setMirrored(mirrored);
+    m_components.setMirrored(mirrored);
     Q_EMIT mirroredChanged();
 }
 
@@ -99,6 +102,7 @@ void ShellController::start(const QString &screen)
     m_guide.start();
     m_channels.start();
     m_settings.start();
+    m_components.start();
     m_about.start();
     Q_EMIT screenChanged();
     if (screen == detailScreen) {

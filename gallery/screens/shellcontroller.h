@@ -6,6 +6,7 @@
 #include "gallery/data/reminders.h"
 #include "screens/aboutcontroller.h"
 #include "screens/channelscontroller.h"
+#include "screens/componentscontroller.h"
 #include "screens/detailcontroller.h"
 #include "screens/guidecontroller.h"
 #include "screens/homecontroller.h"
@@ -32,6 +33,7 @@ class ShellController : public QObject
     Q_PROPERTY(gallery::PlayerController *player READ player CONSTANT)
     Q_PROPERTY(gallery::SeriesController *series READ series CONSTANT)
     Q_PROPERTY(gallery::SettingsController *settings READ settings CONSTANT)
+    Q_PROPERTY(gallery::ComponentsController *components READ components CONSTANT)
     Q_PROPERTY(gallery::AboutController *about READ about CONSTANT)
     /*! The name of the screen that is shown. */
     Q_PROPERTY(QString screen READ screen NOTIFY screenChanged)
@@ -45,7 +47,10 @@ public:
     /*! \a remindersFile keeps the reminders; empty: they are kept for this run only. */
     explicit ShellController(const QString &remindersFile = {}, QObject *parent = nullptr);
 
-    /*! The names of the screens: "home", "detail", "series", "guide", "channels", "player", "settings", "about". */
+    /*!
+        The names of the screens: "home", "detail", "series", "guide", "channels", "player", "settings", "components",
+        "about".
+    */
     static QStringList screenNames();
 
     Clock *clock() { return &m_clock; }
@@ -56,6 +61,7 @@ public:
     PlayerController *player() { return &m_player; }
     SeriesController *series() { return &m_series; }
     SettingsController *settings() { return &m_settings; }
+    ComponentsController *components() { return &m_components; }
     AboutController *about() { return &m_about; }
 
     QString screen() const { return m_open.constLast(); }
@@ -105,6 +111,7 @@ private:
     PlayerController m_player;
     SeriesController m_series;
     SettingsController m_settings;
+    ComponentsController m_components;
     AboutController m_about;
     QStringList m_open;
     bool m_mirrored = false;

@@ -134,6 +134,79 @@
     </message>
 </context>
 <context>
+    <name>ComponentEditorList</name>
+    <message>
+        <source>Properties</source>
+        <translation>الخصائص</translation>
+    </message>
+</context>
+<context>
+    <name>ComponentHints</name>
+    <message>
+        <source>The line was copied</source>
+        <translation>نُسخ السطر</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>العنصر</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>القيمة</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Try out</source>
+        <translation>التجربة</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>نسخ</translation>
+    </message>
+    <message>
+        <source>Use the control</source>
+        <translation>استخدام العنصر</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>رجوع</translation>
+    </message>
+    <message>
+        <source>Leave the control</source>
+        <translation>مغادرة العنصر</translation>
+    </message>
+    <message>
+        <source>Controls</source>
+        <translation>العناصر</translation>
+    </message>
+</context>
+<context>
+    <name>ComponentPageList</name>
+    <message>
+        <source>Controls</source>
+        <translation>العناصر</translation>
+    </message>
+</context>
+<context>
+    <name>ComponentsScreen</name>
+    <message>
+        <source>Components</source>
+        <translation>المكوّنات</translation>
+    </message>
+</context>
+<context>
+    <name>ComponentStage</name>
+    <message>
+        <source>What is typed</source>
+        <translation>النص المكتوب</translation>
+    </message>
+</context>
+<context>
     <name>DetailScreen</name>
     <message>
         <source>Watch</source>
@@ -207,6 +280,17 @@
     <message>
         <source>Close</source>
         <translation>إغلاق</translation>
+    </message>
+</context>
+<context>
+    <name>gallery::ComponentValues</name>
+    <message>
+        <source>Default</source>
+        <translation>افتراضي</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>فارغ</translation>
     </message>
 </context>
 <context>

@@ -134,6 +134,79 @@
     </message>
 </context>
 <context>
+    <name>ComponentEditorList</name>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
+</context>
+<context>
+    <name>ComponentHints</name>
+    <message>
+        <source>The line was copied</source>
+        <translation>Die Zeile ist kopiert</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>Element</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Try out</source>
+        <translation>Ausprobieren</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Use the control</source>
+        <translation>Element bedienen</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>ZURÜCK</translation>
+    </message>
+    <message>
+        <source>Leave the control</source>
+        <translation>Element verlassen</translation>
+    </message>
+    <message>
+        <source>Controls</source>
+        <translation>Elemente</translation>
+    </message>
+</context>
+<context>
+    <name>ComponentPageList</name>
+    <message>
+        <source>Controls</source>
+        <translation>Elemente</translation>
+    </message>
+</context>
+<context>
+    <name>ComponentsScreen</name>
+    <message>
+        <source>Components</source>
+        <translation>Komponenten</translation>
+    </message>
+</context>
+<context>
+    <name>ComponentStage</name>
+    <message>
+        <source>What is typed</source>
+        <translation>Getippter Text</translation>
+    </message>
+</context>
+<context>
     <name>DetailScreen</name>
     <message>
         <source>Watch</source>
@@ -207,6 +280,17 @@
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>gallery::ComponentValues</name>
+    <message>
+        <source>Default</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Leer</translation>
     </message>
 </context>
 <context>

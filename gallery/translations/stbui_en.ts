@@ -134,6 +134,79 @@
     </message>
 </context>
 <context>
+    <name>ComponentEditorList</name>
+    <message>
+        <source>Properties</source>
+        <translation>Properties</translation>
+    </message>
+</context>
+<context>
+    <name>ComponentHints</name>
+    <message>
+        <source>The line was copied</source>
+        <translation>The line was copied</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>Control</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Value</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Try out</source>
+        <translation>Try out</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>Use the control</source>
+        <translation>Use the control</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>BACK</translation>
+    </message>
+    <message>
+        <source>Leave the control</source>
+        <translation>Leave the control</translation>
+    </message>
+    <message>
+        <source>Controls</source>
+        <translation>Controls</translation>
+    </message>
+</context>
+<context>
+    <name>ComponentPageList</name>
+    <message>
+        <source>Controls</source>
+        <translation>Controls</translation>
+    </message>
+</context>
+<context>
+    <name>ComponentsScreen</name>
+    <message>
+        <source>Components</source>
+        <translation>Components</translation>
+    </message>
+</context>
+<context>
+    <name>ComponentStage</name>
+    <message>
+        <source>What is typed</source>
+        <translation>What is typed</translation>
+    </message>
+</context>
+<context>
     <name>DetailScreen</name>
     <message>
         <source>Watch</source>
@@ -207,6 +280,17 @@
     <message>
         <source>Close</source>
         <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>gallery::ComponentValues</name>
+    <message>
+        <source>Default</source>
+        <translation>Default</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Empty</translation>
     </message>
 </context>
 <context>

@@ -134,6 +134,79 @@
     </message>
 </context>
 <context>
+    <name>ComponentEditorList</name>
+    <message>
+        <source>Properties</source>
+        <translation>Свойства</translation>
+    </message>
+</context>
+<context>
+    <name>ComponentHints</name>
+    <message>
+        <source>The line was copied</source>
+        <translation>Строка скопирована</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>Элемент</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Значение</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Try out</source>
+        <translation>Попробовать</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Копировать</translation>
+    </message>
+    <message>
+        <source>Use the control</source>
+        <translation>Управлять элементом</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>НАЗАД</translation>
+    </message>
+    <message>
+        <source>Leave the control</source>
+        <translation>Выйти из элемента</translation>
+    </message>
+    <message>
+        <source>Controls</source>
+        <translation>Элементы</translation>
+    </message>
+</context>
+<context>
+    <name>ComponentPageList</name>
+    <message>
+        <source>Controls</source>
+        <translation>Элементы</translation>
+    </message>
+</context>
+<context>
+    <name>ComponentsScreen</name>
+    <message>
+        <source>Components</source>
+        <translation>Компоненты</translation>
+    </message>
+</context>
+<context>
+    <name>ComponentStage</name>
+    <message>
+        <source>What is typed</source>
+        <translation>Набранный текст</translation>
+    </message>
+</context>
+<context>
     <name>DetailScreen</name>
     <message>
         <source>Watch</source>
@@ -207,6 +280,17 @@
     <message>
         <source>Close</source>
         <translation>Закрыть</translation>
+    </message>
+</context>
+<context>
+    <name>gallery::ComponentValues</name>
+    <message>
+        <source>Default</source>
+        <translation>По умолчанию</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Пусто</translation>
     </message>
 </context>
 <context>

@@ -238,7 +238,7 @@ private Q_SLOTS:
     void everyScreenCanBeNamed()
     {
         QCOMPARE(gallery::screenNames(), (QStringList { "home", "detail", "series", "guide", "channels",
-                                                        "player", "settings", "about" }));
+                                                        "player", "settings", "components", "about" }));
         for (const QString &name : gallery::screenNames())
             QCOMPARE(parse({ "--screen", name }).options.screen, name);
     }
