@@ -54,7 +54,7 @@ public:
 
     explicit ComponentsController(QObject *parent = nullptr);
 
-    /*! As at the start: the first page, and all values as their pages begin with. */
+    /*! As at the start: the page of \c Button, and all values as their pages begin with. */
     void start();
 
     QStringList pages() const;

@@ -25,7 +25,7 @@ public:
 
     explicit ComponentValues(QObject *parent = nullptr);
 
-    /*! The first page, and all values as their pages begin with. */
+    /*! The page of \c Button, and all values as their pages begin with. */
     void start();
     /*! Shows another page, which must exist; its values are those it had last. */
     void showPage(int row);

@@ -49,11 +49,10 @@ private Q_SLOTS:
         m = std::make_unique<ComponentsController>();
     }
 
-    void startsAmongThePagesWithTheFirstOne()
+    void startsAmongThePagesWithTheButton()
     {
         QCOMPARE(m->area(), ComponentsController::Pages);
-        QCOMPARE(m->pageRow(), 0);
-        QCOMPARE(m->pageName(), "BusyIndicator");
+        QCOMPARE(m->pageName(), "Button");
         QVERIFY(!m->isEntered());
         QVERIFY(!m->isCopied());
         QCOMPARE(m->pages().size(), gallery::componentPages().size());
@@ -61,6 +60,8 @@ private Q_SLOTS:
 
     void upAndDownChooseThePageAndStopAtTheEnds()
     {
+        press({ Qt::Key_Up });
+        QCOMPARE(m->pageName(), "BusyIndicator");
         press({ Qt::Key_Up });
         QCOMPARE(m->pageRow(), 0);
         press({ Qt::Key_Down });
@@ -132,6 +133,7 @@ private Q_SLOTS:
         QSignalSpy leave(m.get(), &ComponentsController::leaveRequested);
         press({ Qt::Key_Right, Qt::Key_Down, Qt::Key_Back });
         QCOMPARE(m->area(), ComponentsController::Pages);
+        show("BusyIndicator");
         edit("descriptionColor");
         press({ Qt::Key_Down });
         QCOMPARE(m->area(), ComponentsController::Line);
@@ -271,7 +273,7 @@ private Q_SLOTS:
     void startForgetsEverything()
     {
         const QString first = m->qmlText();
-        edit("running");
+        edit("focused");
         press({ Qt::Key_Return });
         show("CheckBox");
         press({ Qt::Key_Right, Qt::Key_Return });

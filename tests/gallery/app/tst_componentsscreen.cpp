@@ -84,7 +84,7 @@ class tst_ComponentsScreen : public ScreenTest
 private Q_SLOTS:
     void cleanup() { end(); }
 
-    void startsWithTheFocusOnTheFirstPage()
+    void startsWithTheFocusAmongThePages()
     {
         start();
         QCOMPARE(focusProblem(), QString());
@@ -95,6 +95,7 @@ private Q_SLOTS:
     void fourArrowsOkAndBackReachEverythingAndComeBack()
     {
         start();
+        press({ Qt::Key_Home });
         for (int row = 0; row < pageCount(); ++row, press({ Qt::Key_Down })) {
             QCOMPARE(controller()->pageRow(), row);
             press({ Qt::Key_Right });
@@ -122,6 +123,7 @@ private Q_SLOTS:
     void everyControlThatUsesKeysIsLeftAgain()
     {
         start();
+        press({ Qt::Key_Home });
         int entered = 0;
         for (int row = 0; row < pageCount(); ++row, press({ Qt::Key_Down })) {
             QCOMPARE(controller()->pageRow(), row);
@@ -152,6 +154,7 @@ private Q_SLOTS:
     void onlyTheControlOfTheShownPageExists()
     {
         start();
+        press({ Qt::Key_Home });
         for (int row = 0; row < pageCount(); ++row) {
             const QPointer<QQuickItem> shown = control();
             QCOMPARE(preview()->childItems(), QList<QQuickItem *> { shown });
@@ -236,6 +239,7 @@ private Q_SLOTS:
         gallery::Options options;
         options.resolution = resolution;
         start(options);
+        press({ Qt::Key_Home });
         for (int row = 0; row < pageCount(); ++row, press({ Qt::Key_Down })) {
             const QRectF place = preview()->controlRect();
             QVERIFY2(place.width() >= 4 && place.height() >= 4, qPrintable(controller()->pageName()));
