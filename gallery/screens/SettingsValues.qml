@@ -86,7 +86,7 @@ Item {
             readonly property bool chosen: view.settings.inValues && view.settings.row === modelData.row
 
             objectName: "value"
-            width: parent.width
+            width: sections.width
             padding: Look.small
             text: modelData.title
             checked: view.settings.checked[modelData.row] === true
@@ -115,7 +115,7 @@ Item {
             readonly property bool chosen: view.settings.inValues && view.settings.row === modelData.row
 
             objectName: "value"
-            width: parent.width
+            width: sections.width
             padding: Look.small
             text: modelData.title
             checked: view.settings.checked[modelData.row] === true
