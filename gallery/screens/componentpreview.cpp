@@ -61,7 +61,7 @@ void ComponentPreview::make()
     component.setData(m_controller->creationQml().toUtf8(), {});
     std::unique_ptr<QObject> made(component.beginCreate(engine->rootContext()));
     if (auto *item = qobject_cast<QQuickItem *>(made.get())) {
-        made.release();
+        static_cast<void>(made.release()); // m_control has it from here on
         m_control.reset(item);
         item->setParentItem(this);
         component.completeCreate();
