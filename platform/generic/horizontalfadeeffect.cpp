@@ -75,7 +75,8 @@ private:
     QColor m_color;
 };
 
-class HorizontalFadeEffect::RootNode : public QSGNode
+// A transform node, because below a plain one the software adaptation forgets the place of a strip that appears later.
+class HorizontalFadeEffect::RootNode : public QSGTransformNode
 {
 public:
     explicit RootNode(QQuickWindow *window)

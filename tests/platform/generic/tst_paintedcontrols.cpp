@@ -230,6 +230,20 @@ private Q_SLOTS:
         QVERIFY(scene.stage.renderFrame().isEmpty());
     }
 
+    void aStripThatAppearsLaterIsInItsPlace()
+    {
+        GenericScene scene(
+                "HorizontalFadeEffect { x: 50; y: 20; width: 200; height: 30; leftGradientWidth: 100\n"
+                "leftGradientOpacity: 0 }");
+        scene.stage.renderFrame();
+        QCOMPARE(scene.pixel(50, 25), QColor(Qt::white));
+        scene.item->setProperty("leftGradientOpacity", 1);
+        scene.stage.renderFrame();
+        QVERIFY(blackness(scene.pixel(50, 25)) >= 98);
+        QCOMPARE(scene.pixel(49, 25), QColor(Qt::white));
+        QCOMPARE(scene.pixel(50, 19), QColor(Qt::white));
+    }
+
     void theStripsFollowSizeAndColour()
     {
         GenericScene scene("HorizontalFadeEffect { width: 200; height: 30; rightGradientWidth: 40 }");
