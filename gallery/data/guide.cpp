@@ -92,6 +92,18 @@ Programme Guide::programme(int channel, int programme) const
              TextPool::text(record.category), QUrl::fromEncoded(TextPool::text(record.picture).toLatin1()) };
 }
 
+QString Guide::title(int channel, int programme) const
+{
+    Q_ASSERT(programme >= 0 && programme < programmeCount(channel));
+    return TextPool::text(m_data->channels[size_t(channel)].programmes->records[size_t(programme)].title);
+}
+
+const void *Guide::titleKey(int channel, int programme) const
+{
+    Q_ASSERT(programme >= 0 && programme < programmeCount(channel));
+    return m_data->channels[size_t(channel)].programmes->records[size_t(programme)].title;
+}
+
 TimeSpan Guide::timeSpan(int channel, int programme) const
 {
     Q_ASSERT(programme >= 0 && programme < programmeCount(channel));

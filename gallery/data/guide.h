@@ -100,6 +100,10 @@ public:
     /*! Programmes of one channel. They are sorted by start, those that start together by their clump index. */
     int programmeCount(int channel) const;
     Programme programme(int channel, int programme) const;
+    /*! The title of a programme; cheaper than programme(). */
+    QString title(int channel, int programme) const;
+    /*! The same for two programmes only when they have the same title, and mostly when they do. */
+    const void *titleKey(int channel, int programme) const;
     /*! When a programme runs; cheaper than programme(). */
     TimeSpan timeSpan(int channel, int programme) const;
 
