@@ -30,7 +30,7 @@ constexpr OptionText playlistOption { "playlist"_L1, "Channels to show, in this 
 constexpr OptionText catalogueOption { "catalogue"_L1, "Films and series to show: JSON."_L1, "file"_L1 };
 constexpr OptionText nowOption { "now"_L1, "Take this ISO 8601 time for the present."_L1, "date-time"_L1 };
 constexpr OptionText screenOption { "screen"_L1,
-                                    "Screen to show: home, detail, series, guide, channels, player, "
+                                    "Screen to show: home, detail, series, guide, channels, player, search, "
                                     "settings, components or about."_L1,
                                     "name"_L1 };
 constexpr OptionText keysOption { "keys"_L1, "Press these remote keys at start: \"Down Down Return\"."_L1,

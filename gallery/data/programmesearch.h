@@ -36,8 +36,8 @@ public:
     /*! Begins to look for the folded \a words, as it is at \a now. */
     void start(const QStringList &words, qint64 now);
     /*!
-        Looks at up to \a count more programmes of \a index, which is read further where needed; it is the same one for the
-        whole search. True when all have been looked at.
+        Looks at up to \a count more programmes of \a index, which is read further where needed; it is the same one
+        for the whole search. True when all have been looked at.
     */
     bool step(TitleIndex &index, int count);
     /*! What has been found when step() has answered with true, the best first. */

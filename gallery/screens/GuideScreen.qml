@@ -169,7 +169,7 @@ FocusScope {
             }
             KeyHint {
                 visible: Look.wide && screen.guide.programmeRow >= 0 && !screen.guide.inDays
-                key: qsTr("MENU", "a key of the remote control")
+                key: qsTr("GREEN", "a key of the remote control")
                 text: qsTr("Day")
             }
             KeyHint {

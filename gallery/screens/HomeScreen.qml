@@ -8,6 +8,7 @@ FocusScope {
     id: screen
 
     required property HomeController home
+    required property MainMenuController menu
     required property GuideController guide
 
     focus: true
@@ -29,14 +30,16 @@ FocusScope {
         anchors.leftMargin: Look.safeX
         anchors.right: parent.right
         anchors.rightMargin: Look.safeX
-        home: screen.home
+        menu: screen.menu
+        active: screen.home.inHeader
         clockText: screen.guide.clockText
+        question: screen.home.leaving ? qsTr("Press BACK again to leave") : ""
     }
     Column {
         id: hero
 
         anchors.top: header.bottom
-        anchors.topMargin: Look.small
+        anchors.topMargin: Look.medium
         anchors.left: header.left
         width: Math.round((Look.wide ? 0.54 : 0.7) * parent.width)
         spacing: Look.tiny

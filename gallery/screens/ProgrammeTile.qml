@@ -4,7 +4,7 @@ import Stbui.UI.Qml.Controls.Basic
 import Stbui.UI.Qml.Design
 import Gallery
 
-// What is on a channel now.
+// What is on a channel now, or at another time.
 ContentTile {
     id: tile
 
@@ -49,6 +49,7 @@ ContentTile {
         }
     }
     ProgressLine {
+        visible: tile.progress > 0 && tile.progress < 1
         x: tile.customFocusRect.x + Look.medium
         y: tile.customFocusRect.y + tile.customFocusRect.height - height - Look.medium
         width: tile.customFocusRect.width - 2 * Look.medium

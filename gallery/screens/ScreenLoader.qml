@@ -2,7 +2,7 @@
 import QtQuick
 import Gallery
 
-// One screen of the shell: there while it is open, seen and with the keys while it is on top.
+// One screen of the shell: there while it is open, seen while it is on top, and with the keys unless the menu has them.
 Loader {
     required property ShellController controller
     required property string name
@@ -12,5 +12,5 @@ Loader {
     active: controller.openScreens.includes(name)
     // qmllint enable
     visible: controller.screen === name
-    focus: visible
+    focus: visible && !controller.menu.open
 }

@@ -13,6 +13,8 @@ FocusScope {
     focus: true
     LayoutMirroring.enabled: controller.mirrored
     LayoutMirroring.childrenInherit: true
+    // What no screen knows.
+    Keys.onPressed: event => event.accepted = controller.press(event.key)
 
     Rectangle {
         anchors.fill: parent
@@ -25,6 +27,7 @@ FocusScope {
         name: "home"
         sourceComponent: HomeScreen {
             home: shell.controller.home
+            menu: shell.controller.menu
             guide: shell.controller.guide
         }
     }
@@ -66,6 +69,14 @@ FocusScope {
     }
     ScreenLoader {
         controller: shell.controller
+        name: "search"
+        sourceComponent: SearchScreen {
+            search: shell.controller.search
+            guide: shell.controller.guide
+        }
+    }
+    ScreenLoader {
+        controller: shell.controller
         name: "settings"
         sourceComponent: SettingsScreen {
             settings: shell.controller.settings
@@ -89,4 +100,11 @@ FocusScope {
         }
     }
     // qmllint enable unqualified
+    MenuOverlay {
+        anchors.fill: parent
+        visible: shell.controller.menu.open
+        focus: visible
+        menu: shell.controller.menu
+        clockText: shell.controller.guide.clockText
+    }
 }

@@ -182,7 +182,15 @@ bool ChannelsController::press(int key)
 
 bool ChannelsController::pressInRows(int key)
 {
-    switch (key) {
+    if (const int step = channelStep(key)) {
+        chooseRow(m_row + step);
+        return true;
+    }
+    switch (remoteKey(key)) {
+    case Qt::Key_Info:
+        if (!m_programme.title.isEmpty())
+            Q_EMIT detailsRequested();
+        return true;
     case Qt::Key_Up:
         chooseRow(m_row - 1);
         return true;

@@ -85,6 +85,8 @@ public:
     QStringList groups() const { return m_groups; }
     int groupIndex() const { return std::max(0, int(m_groups.indexOf(m_group))); }
 
+    /*! What is on the chosen channel; without a title when nothing is. */
+    const MediaItem &programme() const { return m_programme; }
     QString title() const { return m_programme.title; }
     QString subtitle() const { return m_programme.subtitle; }
     QString description() const { return m_programme.description; }
@@ -104,12 +106,13 @@ public:
     /*!
         Handles a remote key; false when it means nothing here.
 
-        Up, Down, Page Up, Page Down, Home and End choose another channel, Left and Right another group: the chosen
-        channel stays when the group has it, else its first one is chosen. Digits make a number, and the channel that
-        has it is chosen, of the group or else of all: exactly, or else without the dot or hyphen in its number ("71" for
-        "7-1"). Without one nothing changes but the message, which comes when no longer number begins like this, or when
-        no further digit is typed. Return plays the chosen channel,
-        unless it is locked. Back forgets a number that was begun, else asks to leave.
+        Up, Down, Channel Up (the next one), Channel Down, Page Up, Page Down, Home and End choose another channel,
+        Left and Right another group: the chosen channel stays when the group has it, else its first one is chosen.
+        Digits make a number, and the channel that has it is chosen, of the group or else of all: exactly, or else
+        without the dot or hyphen in its number ("71" for "7-1"). Without one nothing changes but the message, which
+        comes when no longer number begins like this, or when no further digit is typed. Return plays the chosen
+        channel, unless it is locked. Info asks for the details of what is on. Back forgets a number that was begun,
+        else asks to leave.
     */
     Q_INVOKABLE bool press(int key);
 
@@ -127,6 +130,8 @@ Q_SIGNALS:
     void mirroredChanged();
     /*! The channel with this index in the guide is to be played; it is marked as playing. */
     void playRequested(int channel);
+    /*! What is on the chosen channel is to be shown on its own: programme(). */
+    void detailsRequested();
     /*! Back was pressed where there is nothing to go back to. */
     void leaveRequested();
 

@@ -97,6 +97,10 @@ bool DetailController::press(int key)
         activate();
         return true;
     }
+    if (remoteKey(key) == Qt::Key_Yellow) {
+        m_favourites->toggle(m_item.id);
+        return true;
+    }
     const int index = int(buttons().indexOf(m_button));
     if (const int step = readingStep(key, m_mirrored)) {
         choose(index + step);

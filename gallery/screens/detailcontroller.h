@@ -102,7 +102,8 @@ public:
 
     /*!
         Handles a remote key; false when it means nothing here. Left, Right, Home and End choose a button, Return
-        presses it: a programme is watched at once, anything else takes a while to open. Back stops what is being
+        presses it: a programme is watched at once, anything else takes a while to open. The yellow key makes it a
+        favourite or none. Back stops what is being
         opened, else asks to go back.
     */
     Q_INVOKABLE bool press(int key);

@@ -177,9 +177,10 @@ public:
 
         Up, Down, Page Up, Page Down, Home and End choose another programme of the channel; Up from the first one
         leads to the row of days, where Left, Right, Home and End choose the day, and Down and Return lead into its
-        programmes. On the programmes Left and Right choose the channel beside it. Anywhere Menu leads to the
-        days and back, Channel Up and Channel Down choose the next and the previous channel, and the keys that skip forward and back the next and the previous
-        day. A change of channel or day chooses what is on at the same time there, however many are passed.
+        programmes. On the programmes Left and Right choose the channel beside it. Anywhere the green key leads to
+        the days and back, Channel Up and Channel Down choose the next and the previous channel, and the keys that
+        skip forward and back the next and the previous day. A change of channel or day chooses what is on at the
+        same time there, however many are passed.
 
         Return sets or deletes the reminder of a programme that is to come and shows the details of any other; there it
         plays the channel of one that is on, and one that is over from its start, and hides the details. Info shows and

@@ -22,28 +22,26 @@ bool GuideController::press(int key)
 
 bool GuideController::pressAnywhere(int key)
 {
-    switch (key) {
-    case Qt::Key_ChannelUp:
-        chooseChannel(m_channelRow + 1);
+    if (const int step = channelStep(key)) {
+        chooseChannel(m_channelRow + step);
         return true;
-    case Qt::Key_ChannelDown:
-        chooseChannel(m_channelRow - 1);
+    }
+    if (isPlayPauseKey(key)) {
+        play();
         return true;
+    }
+    switch (remoteKey(key)) {
     case Qt::Key_MediaNext:
         chooseDay(dayRow() + 1);
         return true;
     case Qt::Key_MediaPrevious:
         chooseDay(dayRow() - 1);
         return true;
-    case Qt::Key_Menu:
+    case Qt::Key_Green:
         setInDays(!m_inDays);
         return true;
     case Qt::Key_Info:
         setDetailsOpen(!m_detailsOpen);
-        return true;
-    case Qt::Key_Play:
-    case Qt::Key_MediaPlay:
-        play();
         return true;
     default:
         return false;

@@ -2,6 +2,7 @@
 #include "screens/homecontroller.h"
 
 #include "gallery/data/clock.h"
+#include "screens/mainmenucontroller.h"
 #include "screens/marks.h"
 #include "screens/remotekey.h"
 
@@ -9,10 +10,11 @@
 
 namespace gallery {
 
-HomeController::HomeController(Clock *clock, Marks *favourites, QObject *parent)
+HomeController::HomeController(Clock *clock, Marks *favourites, MainMenuController *menu, QObject *parent)
     : QObject(parent)
     , m_clock(clock)
     , m_favourites(favourites)
+    , m_menu(menu)
     , m_rows(favourites)
 {
     connect(m_clock, &Clock::nowChanged, this, &HomeController::showProgrammes);
@@ -62,12 +64,23 @@ void HomeController::start()
 {
     for (const auto &row : m_rows.all())
         row->setCurrent(0);
-    m_entry = HomeEntry;
     m_inHeader = false;
     m_touched = false;
     m_row = nullptr;
     setLeaving(false);
     repairFocus();
+}
+
+void HomeController::enterMenu()
+{
+    m_touched = true;
+    setInHeader(true);
+}
+
+void HomeController::leaveMenu()
+{
+    setLeaving(false);
+    setInHeader(false);
 }
 
 void HomeController::chooseFirstVideo()
@@ -112,36 +125,30 @@ bool HomeController::press(int key)
         return true;
     }
     setLeaving(false);
+    if (isMenuKey(key)) {
+        setInHeader(!m_inHeader);
+        return true;
+    }
     return isInHeader() ? pressInHeader(key) : pressInRows(key);
 }
 
 bool HomeController::pressInHeader(int key)
 {
-    if (isSelectKey(key)) {
-        if (m_entry == GuideEntry)
-            Q_EMIT guideRequested();
-        else if (m_entry == ChannelsEntry)
-            Q_EMIT channelsRequested();
-        else
-            setInHeader(false);
-        return true;
-    }
-    if (const int step = readingStep(key, m_mirrored)) {
-        m_entry = Entry(std::clamp(m_entry + step, int(HomeEntry), int(ChannelsEntry)));
-        Q_EMIT selectionChanged();
-        return true;
-    }
     if (key == Qt::Key_Down || key == Qt::Key_PageDown) {
         setInHeader(false);
         return true;
     }
-    return key == Qt::Key_Up || key == Qt::Key_PageUp || key == Qt::Key_Home || key == Qt::Key_End;
+    return m_menu->press(key);
 }
 
 bool HomeController::pressInRows(int key)
 {
-    if (isSelectKey(key)) {
+    if (isSelectKey(key) || remoteKey(key) == Qt::Key_Info) {
         Q_EMIT itemOpened();
+        return true;
+    }
+    if (remoteKey(key) == Qt::Key_Yellow) {
+        m_favourites->toggle(item()->id);
         return true;
     }
     if (const int step = readingStep(key, m_mirrored)) {
@@ -201,8 +208,8 @@ void HomeController::chooseRow(int index)
 
 void HomeController::setInHeader(bool inHeader)
 {
-    m_entry = HomeEntry;
     m_inHeader = inHeader && m_row != nullptr;
+    m_menu->chooseCurrent();
     Q_EMIT selectionChanged();
 }
 

@@ -9,10 +9,11 @@
 namespace gallery {
 
 class Clock;
+class MainMenuController;
 
 /*!
-    What the home screen shows and how remote keys move in it: a header with the ways to other screens, and below
-    it rows of tiles. QML shows the properties and hands every key to press().
+    What the home screen shows and how remote keys move in it: a header with the main menu, and below it rows of
+    tiles. QML shows the properties and hands every key to press().
 */
 class HomeController : public QObject
 {
@@ -23,8 +24,6 @@ class HomeController : public QObject
     Q_PROPERTY(int rowIndex READ rowIndex NOTIFY selectionChanged)
     /*! Whether keys act on the header. Without rows they always do. */
     Q_PROPERTY(bool inHeader READ isInHeader NOTIFY selectionChanged)
-    /*! The entry of the header that keys act on. */
-    Q_PROPERTY(Entry entry READ entry NOTIFY selectionChanged)
     /*! Back was pressed where there is nothing to go back to: once more leaves. */
     Q_PROPERTY(bool leaving READ isLeaving NOTIFY leavingChanged)
 
@@ -40,23 +39,23 @@ class HomeController : public QObject
     QML_ELEMENT
     QML_UNCREATABLE("The shell has it.")
 public:
-    enum Entry { HomeEntry, GuideEntry, ChannelsEntry };
-    Q_ENUM(Entry)
-
-    /*! \a clock and \a favourites outlive this object. */
-    HomeController(Clock *clock, Marks *favourites, QObject *parent = nullptr);
+    /*! \a clock, \a favourites and \a menu outlive this object. */
+    HomeController(Clock *clock, Marks *favourites, MainMenuController *menu, QObject *parent = nullptr);
 
     void setGuide(const Guide &guide);
     void setCatalogue(const Catalogue &catalogue);
     /*! As at the start: every row at its first tile, and keys act on the first row. */
     void start();
+    /*! The keys act on the menu in the header. */
+    void enterMenu();
+    /*! The keys act on the rows, if there are any. */
+    void leaveMenu();
     /*! The keys act on the first film, else the first item of the catalogue; nothing when that has none. */
     void chooseFirstVideo();
 
     HomeRows *rows() { return &m_rows; }
     int rowIndex() const { return m_rows.indexOf(m_row); }
     bool isInHeader() const { return m_inHeader || m_row == nullptr; }
-    Entry entry() const { return m_entry; }
     bool isLeaving() const { return m_leaving; }
 
     /*! The item of the current tile; null without one. */
@@ -76,9 +75,10 @@ public:
         Handles a remote key; false when it means nothing here.
 
         Left and Right choose another tile of the row, Home and End its first and last one. Up, Down, Page Up and
-        Page Down choose another row; from the first row Up leads into the header and Down back. Return opens what
-        is chosen. Back returns to the first tile of the row, then to the first row, then to the header, and asks
-        to leave when it is pressed twice more.
+        Page Down choose another row; from the first row Up leads into the header, where the menu gets the keys, and
+        Down back. Menu leads into the header and back from everywhere. Return and Info open what is chosen, the yellow
+        key makes it a favourite or none. Back returns to the first tile of the row, then to the first row, then to
+        the header, and asks to leave when it is pressed twice more.
     */
     Q_INVOKABLE bool press(int key);
 
@@ -91,8 +91,6 @@ Q_SIGNALS:
     void itemsChanged();
     /*! The current item is to be shown on its own. */
     void itemOpened();
-    void guideRequested();
-    void channelsRequested();
     void leaveRequested();
 
 private:
@@ -107,10 +105,10 @@ private:
 
     Clock *m_clock;
     Marks *m_favourites;
+    MainMenuController *m_menu;
     Guide m_guide;
     HomeRows m_rows;
     HomeRow *m_row = nullptr; // one of m_rows
-    Entry m_entry = HomeEntry;
     bool m_inHeader = false;
     bool m_touched = false; // a key was pressed: what comes in later does not move the focus
     bool m_leaving = false;

@@ -122,10 +122,31 @@ QString lengthText(double seconds)
     return QCoreApplication::translate("MediaItem", "%1 h %2 min").arg(all / 60).arg(all % 60);
 }
 
+QString dayName(QDate day, QDate today)
+{
+    switch (today.daysTo(day)) {
+    case -1:
+        return QCoreApplication::translate("PlayerScreen", "Yesterday");
+    case 0:
+        return QCoreApplication::translate("PlayerScreen", "Today");
+    case 1:
+        return QCoreApplication::translate("PlayerScreen", "Tomorrow");
+    default:
+        return QLocale().toString(day, QCoreApplication::translate("GuideScreen", "ddd, d MMM"));
+    }
+}
+
 QString secondLine(const MediaItem &item)
 {
     if (!item.isProgramme())
         return item.subtitle;
+    const QDate today = item.start.addSecs(qint64(item.position)).date();
+    const bool isOn = item.position >= 0 && item.position < item.duration;
+    if (!isOn && item.start.date() != today) {
+        //: %1 is a day ("Tomorrow"), %2 a time: "Tomorrow, 20:15"
+        return QCoreApplication::translate("MediaItem", "%1, %2")
+                .arg(dayName(item.start.date(), today), item.start.toString(u"HH:mm"_s));
+    }
     const QDateTime stop = item.start.addSecs(qint64(item.duration));
     return u"%1 – %2"_s.arg(item.start.toString(u"HH:mm"_s), stop.toString(u"HH:mm"_s));
 }

@@ -65,7 +65,12 @@ QString channelItemId(const QString &channelId);
 /*! "1 h 42 min", "12 min". */
 QString lengthText(double seconds);
 
-/*! "20:15 – 21:30" of a programme, else the subtitle: the second line of a tile. */
+/*! "Yesterday", "Today", "Tomorrow", or the weekday and date in short. */
+QString dayName(QDate day, QDate today);
+/*!
+    "20:15 – 21:30" of a programme that is on or of today, "Tomorrow, 20:15" of another one; else the subtitle: the
+    second line of a tile.
+*/
 QString secondLine(const MediaItem &item);
 /*! What is left of something that was begun, else the note: the third line of a tile. */
 QString thirdLine(const MediaItem &item);

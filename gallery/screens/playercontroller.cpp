@@ -18,15 +18,15 @@ namespace {
 
 constexpr qint64 catchUpTime = 7 * 24 * 3600; // seconds
 
-/*! Where a key leads among the channels: to the next (1) or the previous one (-1); 0 for another key. */
-constexpr int channelStep(int key)
+/*! As channelStep(); the page keys stand for the channel keys where a remote has none. */
+constexpr int zapStep(int key)
 {
-    if (key == Qt::Key_ChannelUp || key == Qt::Key_PageUp)
+    if (key == Qt::Key_PageUp)
         return 1;
-    return key == Qt::Key_ChannelDown || key == Qt::Key_PageDown ? -1 : 0;
+    return key == Qt::Key_PageDown ? -1 : channelStep(key);
 }
 
-/*! As above, where the arrows stand for the channel keys. */
+/*! The same, where the arrows stand for the channel keys. */
 constexpr int arrowStep(int key)
 {
     if (key == Qt::Key_Up)
@@ -193,8 +193,10 @@ bool PlayerController::press(int key)
             Q_EMIT leaveRequested();
         else
             hideOverlay();
-    } else if (const int step = channelStep(key)) {
+    } else if (const int step = zapStep(key)) {
         zap(step);
+    } else if (pressShortcut(key)) {
+        // Done, wherever the keys are.
     } else if (m_area == Picture) {
         handled = pressOnPicture(key);
     } else {
@@ -202,6 +204,28 @@ bool PlayerController::press(int key)
     }
     waitForIdle();
     return handled;
+}
+
+bool PlayerController::pressShortcut(int key)
+{
+    const int meant = remoteKey(key);
+    if (isPlayPauseKey(key)) {
+        if (m_paused ? meant != Qt::Key_MediaPause : meant != Qt::Key_MediaPlay)
+            activate(PauseButton);
+        if (m_area == Picture) {
+            chooseAnew();
+            show(Buttons);
+        }
+    } else if (meant == Qt::Key_Yellow) {
+        activate(FavouriteButton);
+    } else if (meant == Qt::Key_Info) {
+        if (m_area == Picture)
+            chooseAnew();
+        show(m_area == Programmes ? Picture : Programmes);
+    } else {
+        return false;
+    }
+    return true;
 }
 
 bool PlayerController::pressOnPicture(int key)
@@ -236,7 +260,7 @@ bool PlayerController::pressOnProgrammes(int key)
 bool PlayerController::pressOnButtons(int key)
 {
     if (isSelectKey(key)) {
-        activate();
+        activate(m_button);
     } else if (key == Qt::Key_Up) {
         show(Programmes);
     } else if (const int step = readingStep(key, m_mirrored)) {
@@ -249,9 +273,9 @@ bool PlayerController::pressOnButtons(int key)
     return true;
 }
 
-void PlayerController::activate()
+void PlayerController::activate(Button button)
 {
-    switch (m_button) {
+    switch (button) {
     case PauseButton:
         setPlaying(m_behind, !m_paused && m_channelRow >= 0);
         return;

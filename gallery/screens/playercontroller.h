@@ -134,6 +134,9 @@ public:
         another channel as well. On the programmes, Left, Right, Home and End choose one, Up and Down go to another
         channel and choose there what is on at the same time, however many channels are passed, and Return leads to
         the buttons. On the buttons, Left, Right, Home and End choose one, Return presses it, and Up leads back.
+
+        Anywhere Play and Pause do what they say, the key for both does one after the other, the yellow key makes the
+        channel a favourite or none, and Info shows the programmes and hides them.
     */
     Q_INVOKABLE bool press(int key);
 
@@ -159,10 +162,11 @@ private:
     qint64 moment() const { return now() - m_behind; }
     int watchedRow() const { return m_programmes.rowAt(moment()); }
 
+    bool pressShortcut(int key);
     bool pressOnPicture(int key);
     bool pressOnProgrammes(int key);
     bool pressOnButtons(int key);
-    void activate();
+    void activate(Button button);
     void zap(int step);
     int unlockedFrom(int channelRow, int step) const;
     void watch(int channelRow);

@@ -2,9 +2,9 @@
 #include "screens/playerprogrammes.h"
 
 #include "gallery/data/programmestills.h"
+#include "screens/mediaitem.h"
 
 #include <QtCore/qcoreapplication.h>
-#include <QtCore/qlocale.h>
 
 #include <algorithm>
 
@@ -17,20 +17,6 @@ namespace {
 bool isPast(const TimeSpan &time, qint64 now)
 {
     return now >= time.start && now >= time.stop;
-}
-
-QString dayName(QDate day, QDate today)
-{
-    switch (today.daysTo(day)) {
-    case -1:
-        return QCoreApplication::translate("PlayerScreen", "Yesterday");
-    case 0:
-        return QCoreApplication::translate("PlayerScreen", "Today");
-    case 1:
-        return QCoreApplication::translate("PlayerScreen", "Tomorrow");
-    default:
-        return QLocale().toString(day, QCoreApplication::translate("GuideScreen", "ddd, d MMM"));
-    }
 }
 
 } // namespace

@@ -10,8 +10,10 @@
 #include "screens/detailcontroller.h"
 #include "screens/guidecontroller.h"
 #include "screens/homecontroller.h"
+#include "screens/mainmenucontroller.h"
 #include "screens/marks.h"
 #include "screens/playercontroller.h"
+#include "screens/searchcontroller.h"
 #include "screens/seriescontroller.h"
 #include "screens/settingscontroller.h"
 
@@ -26,12 +28,14 @@ namespace gallery {
 class ShellController : public QObject
 {
     Q_OBJECT
+    Q_PROPERTY(gallery::MainMenuController *menu READ menu CONSTANT)
     Q_PROPERTY(gallery::HomeController *home READ home CONSTANT)
     Q_PROPERTY(gallery::DetailController *detail READ detail CONSTANT)
     Q_PROPERTY(gallery::GuideController *guide READ guide CONSTANT)
     Q_PROPERTY(gallery::ChannelsController *channels READ channels CONSTANT)
     Q_PROPERTY(gallery::PlayerController *player READ player CONSTANT)
     Q_PROPERTY(gallery::SeriesController *series READ series CONSTANT)
+    Q_PROPERTY(gallery::SearchController *search READ search CONSTANT)
     Q_PROPERTY(gallery::SettingsController *settings READ settings CONSTANT)
     Q_PROPERTY(gallery::ComponentsController *components READ components CONSTANT)
     Q_PROPERTY(gallery::AboutController *about READ about CONSTANT)
@@ -48,18 +52,20 @@ public:
     explicit ShellController(const QString &remindersFile = {}, QObject *parent = nullptr);
 
     /*!
-        The names of the screens: "home", "detail", "series", "guide", "channels", "player", "settings", "components",
-        "about".
+        The names of the screens: "home", "detail", "series", "guide", "channels", "player", "search",
+        "settings", "components", "about".
     */
     static QStringList screenNames();
 
     Clock *clock() { return &m_clock; }
+    MainMenuController *menu() { return &m_menu; }
     HomeController *home() { return &m_home; }
     DetailController *detail() { return &m_detail; }
     GuideController *guide() { return &m_guide; }
     ChannelsController *channels() { return &m_channels; }
     PlayerController *player() { return &m_player; }
     SeriesController *series() { return &m_series; }
+    SearchController *search() { return &m_search; }
     SettingsController *settings() { return &m_settings; }
     ComponentsController *components() { return &m_components; }
     AboutController *about() { return &m_about; }
@@ -77,6 +83,11 @@ public:
     void start(const QString &screen);
     /*! Shows the films and series of \a catalogue. */
     void setCatalogue(const Catalogue &catalogue);
+    /*!
+        Handles a remote key that the screen that is shown does not know; false when it means nothing here either. The
+        menu keys lay the main menu over the screen, other keys lead to a screen at once.
+    */
+    Q_INVOKABLE bool press(int key);
     /*! Leaves the screen for the one below it; on the lowest one nothing happens. */
     void goBack();
 
@@ -96,7 +107,11 @@ Q_SIGNALS:
 private:
     void connectScreens();
     void open(const QString &screen);
+    void openEntry(const QString &screen);
+    void setOpenScreens(const QStringList &screens);
     void openItem();
+    void openDetails(const MediaItem &item);
+    void updateDetails();
     void openEpisodes();
     void watchItem();
 
@@ -104,16 +119,19 @@ private:
     Marks m_favourites;
     Marks m_likes;
     Reminders m_reminders;
+    MainMenuController m_menu;
     HomeController m_home;
     DetailController m_detail;
     GuideController m_guide;
     ChannelsController m_channels;
     PlayerController m_player;
     SeriesController m_series;
+    SearchController m_search;
     SettingsController m_settings;
     ComponentsController m_components;
     AboutController m_about;
     QStringList m_open;
+    bool m_detailGoesOn = false;
     bool m_mirrored = false;
 };
 

@@ -76,6 +76,8 @@ QVariant TileModel::data(const QModelIndex &index, int role) const
         return item.progress();
     case FavouriteRole:
         return m_favourites->contains(item.id);
+    case ProgrammeRole:
+        return item.isProgramme();
     default:
         return {};
     }
@@ -83,10 +85,11 @@ QVariant TileModel::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> TileModel::roleNames() const
 {
-    return { { TitleRole, "title" },       { SubtitleRole, "subtitle" }, { StatusRole, "status" },
-             { PictureRole, "picture" },   { StillRole, "still" },       { LogoRole, "logo" },
-             { RatingRole, "rating" },     { ChannelRole, "channel" },   { PositionRole, "position" },
-             { DurationRole, "duration" }, { ProgressRole, "progress" }, { FavouriteRole, "favourite" } };
+    return { { TitleRole, "title" },        { SubtitleRole, "subtitle" }, { StatusRole, "status" },
+             { PictureRole, "picture" },    { StillRole, "still" },       { LogoRole, "logo" },
+             { RatingRole, "rating" },      { ChannelRole, "channel" },   { PositionRole, "position" },
+             { DurationRole, "duration" },  { ProgressRole, "progress" }, { FavouriteRole, "favourite" },
+             { ProgrammeRole, "programme" } };
 }
 
 } // namespace gallery

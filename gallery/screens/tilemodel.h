@@ -10,7 +10,7 @@ namespace gallery {
 
 class Marks;
 
-/*! The tiles of one row of the home screen. */
+/*! The tiles of one row of the home screen, or of what a search has found. */
 class TileModel : public QAbstractListModel
 {
     Q_OBJECT
@@ -27,7 +27,8 @@ public:
         PositionRole, /*!< position: double, seconds */
         DurationRole, /*!< duration: double, seconds */
         ProgressRole, /*!< progress: double, 0 to 1 */
-        FavouriteRole /*!< favourite: bool */
+        FavouriteRole, /*!< favourite: bool */
+        ProgrammeRole /*!< programme: bool, whether it is on TV */
     };
     Q_ENUM(Role)
 

@@ -356,9 +356,9 @@
         <translation>اليوم</translation>
     </message>
     <message>
-        <source>MENU</source>
+        <source>GREEN</source>
         <comment>a key of the remote control</comment>
-        <translation>القائمة</translation>
+        <translation>أخضر</translation>
     </message>
     <message>
         <source>Programmes</source>
@@ -380,26 +380,11 @@
     </message>
 </context>
 <context>
-    <name>HomeHeader</name>
-    <message>
-        <source>Home</source>
-        <translation>الرئيسية</translation>
-    </message>
-    <message>
-        <source>TV guide</source>
-        <translation>دليل البرامج</translation>
-    </message>
-    <message>
-        <source>Channels</source>
-        <translation>القنوات</translation>
-    </message>
+    <name>HomeScreen</name>
     <message>
         <source>Press BACK again to leave</source>
         <translation>اضغط «رجوع» مرة أخرى للخروج</translation>
     </message>
-</context>
-<context>
-    <name>HomeScreen</name>
     <message>
         <source>There is nothing on TV now, and the catalogue is empty</source>
         <translation>لا شيء يُعرض على التلفاز الآن، والقائمة فارغة</translation>
@@ -436,7 +421,47 @@
     </message>
 </context>
 <context>
+    <name>MainMenu</name>
+    <message>
+        <source>Main menu</source>
+        <translation>القائمة الرئيسية</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>الرئيسية</translation>
+    </message>
+    <message>
+        <source>TV guide</source>
+        <translation>دليل البرامج</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>القنوات</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>البحث</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>الإعدادات</translation>
+    </message>
+    <message>
+        <source>Components</source>
+        <translation>المكونات</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>حول</translation>
+    </message>
+</context>
+<context>
     <name>MediaItem</name>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>%1 is a day (&quot;Tomorrow&quot;), %2 a time: &quot;Tomorrow, 20:15&quot;</extracomment>
+        <translation>%1، %2</translation>
+    </message>
     <message>
         <source>%1 min</source>
         <extracomment>Length of a film: minutes</extracomment>
@@ -642,6 +667,63 @@
     <message>
         <source>List</source>
         <translation>قائمة</translation>
+    </message>
+</context>
+<context>
+    <name>SearchResults</name>
+    <message>
+        <source>Results</source>
+        <translation>النتائج</translation>
+    </message>
+</context>
+<context>
+    <name>SearchScreen</name>
+    <message>
+        <source>Search</source>
+        <translation>البحث</translation>
+    </message>
+    <message>
+        <source>Programmes, films, series</source>
+        <translation>برامج وأفلام ومسلسلات</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>التفاصيل</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>النتائج</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>رجوع</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation>لوحة المفاتيح</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>إغلاق</translation>
+    </message>
+    <message>
+        <source>Type the name of a programme, a film or a series</source>
+        <translation>اكتب اسم برنامج أو فيلم أو مسلسل</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>جارٍ البحث…</translation>
+    </message>
+    <message>
+        <source>Nothing found for “%1”</source>
+        <extracomment>%1 is what the viewer has typed</extracomment>
+        <translation>لا توجد نتائج للبحث عن «%1»</translation>
     </message>
 </context>
 <context>

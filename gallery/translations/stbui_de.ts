@@ -356,9 +356,9 @@
         <translation>Tag</translation>
     </message>
     <message>
-        <source>MENU</source>
+        <source>GREEN</source>
         <comment>a key of the remote control</comment>
-        <translation>MENÜ</translation>
+        <translation>GRÜN</translation>
     </message>
     <message>
         <source>Programmes</source>
@@ -380,26 +380,11 @@
     </message>
 </context>
 <context>
-    <name>HomeHeader</name>
-    <message>
-        <source>Home</source>
-        <translation>Start</translation>
-    </message>
-    <message>
-        <source>TV guide</source>
-        <translation>TV-Programm</translation>
-    </message>
-    <message>
-        <source>Channels</source>
-        <translation>Sender</translation>
-    </message>
+    <name>HomeScreen</name>
     <message>
         <source>Press BACK again to leave</source>
         <translation>Zum Beenden noch einmal ZURÜCK drücken</translation>
     </message>
-</context>
-<context>
-    <name>HomeScreen</name>
     <message>
         <source>There is nothing on TV now, and the catalogue is empty</source>
         <translation>Im Fernsehen läuft gerade nichts, und der Katalog ist leer</translation>
@@ -436,7 +421,47 @@
     </message>
 </context>
 <context>
+    <name>MainMenu</name>
+    <message>
+        <source>Main menu</source>
+        <translation>Hauptmenü</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>TV guide</source>
+        <translation>TV-Programm</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Sender</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suche</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Components</source>
+        <translation>Komponenten</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Info</translation>
+    </message>
+</context>
+<context>
     <name>MediaItem</name>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>%1 is a day (&quot;Tomorrow&quot;), %2 a time: &quot;Tomorrow, 20:15&quot;</extracomment>
+        <translation>%1, %2</translation>
+    </message>
     <message>
         <source>%1 min</source>
         <extracomment>Length of a film: minutes</extracomment>
@@ -642,6 +667,63 @@
     <message>
         <source>List</source>
         <translation>Liste</translation>
+    </message>
+</context>
+<context>
+    <name>SearchResults</name>
+    <message>
+        <source>Results</source>
+        <translation>Ergebnisse</translation>
+    </message>
+</context>
+<context>
+    <name>SearchScreen</name>
+    <message>
+        <source>Search</source>
+        <translation>Suche</translation>
+    </message>
+    <message>
+        <source>Programmes, films, series</source>
+        <translation>Sendungen, Filme, Serien</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Ergebnisse</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>ZURÜCK</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation>Tastatur</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Type the name of a programme, a film or a series</source>
+        <translation>Geben Sie den Namen einer Sendung, eines Films oder einer Serie ein</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>Suche läuft …</translation>
+    </message>
+    <message>
+        <source>Nothing found for “%1”</source>
+        <extracomment>%1 is what the viewer has typed</extracomment>
+        <translation>Nichts gefunden für „%1“</translation>
     </message>
 </context>
 <context>
@@ -853,7 +935,7 @@
     <message>
         <source>Shift</source>
         <extracomment>On a key of the on-screen keyboard</extracomment>
-        <translation>Umschalten</translation>
+        <translation>Umsch</translation>
     </message>
     <message>
         <source>Caps lock</source>

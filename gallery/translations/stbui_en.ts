@@ -356,9 +356,9 @@
         <translation>Day</translation>
     </message>
     <message>
-        <source>MENU</source>
+        <source>GREEN</source>
         <comment>a key of the remote control</comment>
-        <translation>MENU</translation>
+        <translation>GREEN</translation>
     </message>
     <message>
         <source>Programmes</source>
@@ -380,26 +380,11 @@
     </message>
 </context>
 <context>
-    <name>HomeHeader</name>
-    <message>
-        <source>Home</source>
-        <translation>Home</translation>
-    </message>
-    <message>
-        <source>TV guide</source>
-        <translation>TV guide</translation>
-    </message>
-    <message>
-        <source>Channels</source>
-        <translation>Channels</translation>
-    </message>
+    <name>HomeScreen</name>
     <message>
         <source>Press BACK again to leave</source>
         <translation>Press BACK again to leave</translation>
     </message>
-</context>
-<context>
-    <name>HomeScreen</name>
     <message>
         <source>There is nothing on TV now, and the catalogue is empty</source>
         <translation>There is nothing on TV now, and the catalogue is empty</translation>
@@ -436,7 +421,47 @@
     </message>
 </context>
 <context>
+    <name>MainMenu</name>
+    <message>
+        <source>Main menu</source>
+        <translation>Main menu</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>TV guide</source>
+        <translation>TV guide</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Channels</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Search</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>Components</source>
+        <translation>Components</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>About</translation>
+    </message>
+</context>
+<context>
     <name>MediaItem</name>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>%1 is a day (&quot;Tomorrow&quot;), %2 a time: &quot;Tomorrow, 20:15&quot;</extracomment>
+        <translation>%1, %2</translation>
+    </message>
     <message>
         <source>%1 min</source>
         <extracomment>Length of a film: minutes</extracomment>
@@ -642,6 +667,63 @@
     <message>
         <source>List</source>
         <translation>List</translation>
+    </message>
+</context>
+<context>
+    <name>SearchResults</name>
+    <message>
+        <source>Results</source>
+        <translation>Results</translation>
+    </message>
+</context>
+<context>
+    <name>SearchScreen</name>
+    <message>
+        <source>Search</source>
+        <translation>Search</translation>
+    </message>
+    <message>
+        <source>Programmes, films, series</source>
+        <translation>Programmes, films, series</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Results</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>BACK</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation>Keyboard</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Type the name of a programme, a film or a series</source>
+        <translation>Type the name of a programme, a film or a series</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>Searching…</translation>
+    </message>
+    <message>
+        <source>Nothing found for “%1”</source>
+        <extracomment>%1 is what the viewer has typed</extracomment>
+        <translation>Nothing found for “%1”</translation>
     </message>
 </context>
 <context>

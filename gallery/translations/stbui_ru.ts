@@ -356,9 +356,9 @@
         <translation>День</translation>
     </message>
     <message>
-        <source>MENU</source>
+        <source>GREEN</source>
         <comment>a key of the remote control</comment>
-        <translation>МЕНЮ</translation>
+        <translation>ЗЕЛЁНАЯ</translation>
     </message>
     <message>
         <source>Programmes</source>
@@ -380,26 +380,11 @@
     </message>
 </context>
 <context>
-    <name>HomeHeader</name>
-    <message>
-        <source>Home</source>
-        <translation>Главная</translation>
-    </message>
-    <message>
-        <source>TV guide</source>
-        <translation>Телепрограмма</translation>
-    </message>
-    <message>
-        <source>Channels</source>
-        <translation>Каналы</translation>
-    </message>
+    <name>HomeScreen</name>
     <message>
         <source>Press BACK again to leave</source>
         <translation>Чтобы выйти, нажмите НАЗАД ещё раз</translation>
     </message>
-</context>
-<context>
-    <name>HomeScreen</name>
     <message>
         <source>There is nothing on TV now, and the catalogue is empty</source>
         <translation>Сейчас в эфире ничего нет, и каталог пуст</translation>
@@ -436,7 +421,47 @@
     </message>
 </context>
 <context>
+    <name>MainMenu</name>
+    <message>
+        <source>Main menu</source>
+        <translation>Главное меню</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Главная</translation>
+    </message>
+    <message>
+        <source>TV guide</source>
+        <translation>Телепрограмма</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Каналы</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Поиск</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Настройки</translation>
+    </message>
+    <message>
+        <source>Components</source>
+        <translation>Компоненты</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>О программе</translation>
+    </message>
+</context>
+<context>
     <name>MediaItem</name>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>%1 is a day (&quot;Tomorrow&quot;), %2 a time: &quot;Tomorrow, 20:15&quot;</extracomment>
+        <translation>%1, %2</translation>
+    </message>
     <message>
         <source>%1 min</source>
         <extracomment>Length of a film: minutes</extracomment>
@@ -642,6 +667,63 @@
     <message>
         <source>List</source>
         <translation>Список</translation>
+    </message>
+</context>
+<context>
+    <name>SearchResults</name>
+    <message>
+        <source>Results</source>
+        <translation>Результаты</translation>
+    </message>
+</context>
+<context>
+    <name>SearchScreen</name>
+    <message>
+        <source>Search</source>
+        <translation>Поиск</translation>
+    </message>
+    <message>
+        <source>Programmes, films, series</source>
+        <translation>Передачи, фильмы, сериалы</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>a key of the remote control</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Подробнее</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Результаты</translation>
+    </message>
+    <message>
+        <source>BACK</source>
+        <comment>a key of the remote control</comment>
+        <translation>НАЗАД</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation>Клавиатура</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Type the name of a programme, a film or a series</source>
+        <translation>Введите название передачи, фильма или сериала</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>Идёт поиск…</translation>
+    </message>
+    <message>
+        <source>Nothing found for “%1”</source>
+        <extracomment>%1 is what the viewer has typed</extracomment>
+        <translation>По запросу «%1» ничего не найдено</translation>
     </message>
 </context>
 <context>

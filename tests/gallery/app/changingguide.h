@@ -13,7 +13,7 @@ inline QList<int> allRemoteKeys()
 {
     return { Qt::Key_Up,        Qt::Key_Down,        Qt::Key_Left,      Qt::Key_Right,         Qt::Key_PageUp,
              Qt::Key_PageDown,  Qt::Key_Home,        Qt::Key_End,       Qt::Key_Return,        Qt::Key_Back,
-             Qt::Key_ChannelUp, Qt::Key_ChannelDown, Qt::Key_MediaNext, Qt::Key_MediaPrevious, Qt::Key_Menu,
+             Qt::Key_ChannelUp, Qt::Key_ChannelDown, Qt::Key_MediaNext, Qt::Key_MediaPrevious, Qt::Key_Green,
              Qt::Key_Info,      Qt::Key_Play,        Qt::Key_A };
 }
 

@@ -83,6 +83,24 @@ protected:
         return {};
     }
 
+    /*! Why the menu's entry that has the focus cannot be seen, or nothing when it can. */
+    QString menuProblem() const
+    {
+        if (view()->activeFocusItem() == nullptr)
+            return "nothing has the focus";
+        const QList<QQuickItem *> entries = items("menuEntry");
+        int focused = 0;
+        for (const QQuickItem *entry : entries) {
+            if (!entry->property("focused").toBool())
+                continue;
+            ++focused;
+            if (!sceneRect(item("menuEntries")).adjusted(-1, -1, 1, 1).contains(sceneRect(entry)))
+                return "the entry that has the focus is not wholly in the menu";
+        }
+        return focused == 1 ? QString()
+                            : QStringLiteral("%1 of %2 entries focused").arg(focused).arg(entries.size());
+    }
+
     static QList<Qt::Key> remoteKeys()
     {
         return { Qt::Key_Up,       Qt::Key_Down, Qt::Key_Left,   Qt::Key_Right,  Qt::Key_PageUp,

@@ -75,6 +75,24 @@ private Q_SLOTS:
         QCOMPARE(plays.count(), 0);
     }
 
+    void theChannelKeysChooseTheNextChannelAndTheOneBefore()
+    {
+        setUp();
+        press({ Qt::Key_ChannelUp, Qt::Key_ChannelUp });
+        QCOMPARE(m->channelRow(), 2);
+        press({ Qt::Key_ChannelDown });
+        QCOMPARE(m->channelRow(), 1);
+    }
+
+    void infoAsksForTheDetailsOfWhatIsOn()
+    {
+        setUp();
+        QSignalSpy requests(m.get(), &ChannelsController::detailsRequested);
+        press({ Qt::Key_Info });
+        QCOMPARE(requests.count(), 1);
+        QCOMPARE(m->programme().title, "n140");
+    }
+
     void aRowHasAllOfItsChannel()
     {
         QList<channels::Spec> specs = channels::seven();

@@ -237,8 +237,9 @@ private Q_SLOTS:
 
     void everyScreenCanBeNamed()
     {
-        QCOMPARE(gallery::screenNames(), (QStringList { "home", "detail", "series", "guide", "channels",
-                                                        "player", "settings", "components", "about" }));
+        QCOMPARE(gallery::screenNames(),
+                 (QStringList { "home", "detail", "series", "guide", "channels", "player", "search",
+                                "settings", "components", "about" }));
         for (const QString &name : gallery::screenNames())
             QCOMPARE(parse({ "--screen", name }).options.screen, name);
     }

@@ -215,6 +215,16 @@ private Q_SLOTS:
         QCOMPARE(changes.count(), 1);
     }
 
+    void theYellowKeyMakesItAFavouriteOrNone()
+    {
+        m->showFilm(0);
+        m->press({ Qt::Key_Yellow });
+        QVERIFY(m->detail.isFavourite());
+        QCOMPARE(m->detail.button(), DetailController::PlayButton);
+        m->press({ Qt::Key_F3 });
+        QVERIFY(!m->detail.isFavourite());
+    }
+
     void otherKeysAreNotTaken()
     {
         m->showFilm(0);

@@ -134,13 +134,13 @@ private Q_SLOTS:
         QTest::addColumn<int>("key");
         QTest::newRow("down") << int(Qt::Key_Down);
         QTest::newRow("ok") << int(Qt::Key_Return);
-        QTest::newRow("menu") << int(Qt::Key_Menu);
+        QTest::newRow("green") << int(Qt::Key_Green);
     }
     void downAndOkLeadIntoTheProgrammes()
     {
         QFETCH(int, key);
         setUp();
-        press({ Qt::Key_Menu });
+        press({ Qt::Key_Green });
         QVERIFY(m_guide->isInDays());
         QVERIFY(m_guide->press(key));
         QVERIFY(!m_guide->isInDays());
@@ -151,7 +151,7 @@ private Q_SLOTS:
     void leftAndRightChooseTheDayAndKeepTheTime()
     {
         setUp();
-        press({ Qt::Key_Menu, Qt::Key_Right });
+        press({ Qt::Key_Green, Qt::Key_Right });
         QCOMPARE(m_guide->title(), "A5-20:00");
         QCOMPARE(m_guide->dayRow(), 8);
         QCOMPARE(m_guide->dayText(), QLocale().toString(QDate(2026, 3, 5), u"dddd, d MMMM"));
@@ -165,14 +165,14 @@ private Q_SLOTS:
     {
         setUp();
         m_guide->setMirrored(true);
-        press({ Qt::Key_Menu, Qt::Key_Left });
+        press({ Qt::Key_Green, Qt::Key_Left });
         QCOMPARE(m_guide->dayRow(), 8);
     }
 
     void homeAndEndChooseTheFirstAndTheLastDayWhereTheRowStops()
     {
         setUp();
-        press({ Qt::Key_Menu, Qt::Key_End, Qt::Key_Right });
+        press({ Qt::Key_Green, Qt::Key_End, Qt::Key_Right });
         QCOMPARE(m_guide->dayRow(), 14);
         QCOMPARE(m_guide->programmeRow(), -1);
         press({ Qt::Key_Home, Qt::Key_Left });
@@ -210,7 +210,7 @@ private Q_SLOTS:
         QCOMPARE(m_guide->title(), "B4-20:00");
         press({ Qt::Key_ChannelUp });
         QCOMPARE(m_guide->channelRow(), 1);
-        press({ Qt::Key_Menu, Qt::Key_Right, Qt::Key_ChannelDown });
+        press({ Qt::Key_Green, Qt::Key_Right, Qt::Key_ChannelDown });
         QCOMPARE(m_guide->title(), "A5-20:00");
         QVERIFY(m_guide->isInDays());
     }
@@ -228,7 +228,7 @@ private Q_SLOTS:
     {
         setUp();
         QSignalSpy leaving(m_guide.get(), &GuideController::leaveRequested);
-        press({ Qt::Key_Menu, Qt::Key_End, Qt::Key_Back });
+        press({ Qt::Key_Green, Qt::Key_End, Qt::Key_Back });
         QVERIFY(!m_guide->isInDays());
         QCOMPARE(m_guide->title(), "A4-20:00");
         press({ Qt::Key_MediaNext, Qt::Key_Back });
@@ -241,7 +241,7 @@ private Q_SLOTS:
     void theDetailsCloseOnTheWayToTheDays()
     {
         setUp();
-        press({ Qt::Key_Return, Qt::Key_Menu });
+        press({ Qt::Key_Return, Qt::Key_Green });
         QVERIFY(m_guide->isInDays() && !m_guide->isDetailsOpen());
         press({ Qt::Key_Info });
         QVERIFY(!m_guide->isDetailsOpen());
@@ -257,10 +257,10 @@ private Q_SLOTS:
     void withoutChannelsTheDaysCannotBeReached()
     {
         setUp();
-        press({ Qt::Key_Menu });
+        press({ Qt::Key_Green });
         m_guide->setGuide({});
         QVERIFY(!m_guide->isInDays());
-        press({ Qt::Key_Menu, Qt::Key_Up, Qt::Key_MediaNext });
+        press({ Qt::Key_Green, Qt::Key_Up, Qt::Key_MediaNext });
         QVERIFY(!m_guide->isInDays());
         QCOMPARE(m_guide->dayRow(), 7);
     }
@@ -279,7 +279,7 @@ private Q_SLOTS:
     void atMidnightTheFirstDayIsNotLostSightOf()
     {
         setUp();
-        press({ Qt::Key_Menu, Qt::Key_Home });
+        press({ Qt::Key_Green, Qt::Key_Home });
         m_clock->setFixed(guides::at(0, 1).addDays(1));
         QCOMPARE(m_guide->date(), QDate(2026, 2, 26));
         QCOMPARE(m_guide->dayRow(), 0);

@@ -166,7 +166,7 @@ private Q_SLOTS:
     void theDayAndTheRowOfDaysStayChosen()
     {
         setUp();
-        press({ Qt::Key_Menu, Qt::Key_Right });
+        press({ Qt::Key_Green, Qt::Key_Right });
         m_guide->setGuide(guideOf({ { "x", three() }, { "b", three(24 * 60) } }));
         QVERIFY(m_guide->isInDays());
         QCOMPARE(m_guide->dayRow(), 8);

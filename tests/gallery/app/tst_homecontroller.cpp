@@ -5,6 +5,7 @@
 
 #include "gallery/data/clock.h"
 #include "screens/homecontroller.h"
+#include "screens/mainmenucontroller.h"
 #include "screens/marks.h"
 
 #include <QtTest/qsignalspy.h>
@@ -21,9 +22,14 @@ class tst_HomeController : public stbtest::TestCase
     {
         gallery::Clock clock;
         gallery::Marks favourites;
-        HomeController home { &clock, &favourites };
+        gallery::MainMenuController menu { { "home", "guide", "channels" } };
+        HomeController home { &clock, &favourites, &menu };
 
-        Fixture() { clock.setFixed(guides::at(20, 5)); }
+        Fixture()
+        {
+            clock.setFixed(guides::at(20, 5));
+            menu.setOpenScreens({ "home" });
+        }
 
         void fill()
         {
@@ -147,10 +153,6 @@ private Q_SLOTS:
         QCOMPARE(m->home.title(), "A40");
         m->press({ Qt::Key_Left });
         QCOMPARE(m->home.title(), "B25");
-        m->press({ Qt::Key_Back, Qt::Key_Up, Qt::Key_Left });
-        QCOMPARE(m->home.entry(), HomeController::GuideEntry);
-        m->press({ Qt::Key_Right });
-        QCOMPARE(m->home.entry(), HomeController::HomeEntry);
     }
 
     void homeAndEndChooseTheFirstAndTheLastTile()
@@ -190,35 +192,69 @@ private Q_SLOTS:
         m->fill();
         m->press({ Qt::Key_Right, Qt::Key_Up });
         QVERIFY(m->home.isInHeader());
-        QCOMPARE(m->home.entry(), HomeController::HomeEntry);
+        QCOMPARE(m->menu.chosen(), 0);
         m->press({ Qt::Key_Up, Qt::Key_Right });
-        QCOMPARE(m->home.entry(), HomeController::GuideEntry);
+        QCOMPARE(m->menu.chosen(), 1);
         m->press({ Qt::Key_Right, Qt::Key_Right });
-        QCOMPARE(m->home.entry(), HomeController::ChannelsEntry);
+        QCOMPARE(m->menu.chosen(), 2);
         m->press({ Qt::Key_Left, Qt::Key_Left, Qt::Key_Left });
-        QCOMPARE(m->home.entry(), HomeController::HomeEntry);
+        QCOMPARE(m->menu.chosen(), 0);
         m->press({ Qt::Key_Down });
         QVERIFY(!m->home.isInHeader());
         QCOMPARE(m->home.title(), "B25");
     }
 
-    void theHeaderLeadsToTheGuide()
+    void theHeaderBeginsWithItsOwnEntryAgain()
     {
         m->fill();
-        QSignalSpy requests(&m->home, &HomeController::guideRequested);
-        m->press({ Qt::Key_Up, Qt::Key_Return });
-        QCOMPARE(requests.count(), 0);
-        QVERIFY(!m->home.isInHeader());
-        m->press({ Qt::Key_Up, Qt::Key_Right, Qt::Key_Return });
-        QCOMPARE(requests.count(), 1);
+        m->press({ Qt::Key_Up, Qt::Key_Right, Qt::Key_Down, Qt::Key_Up });
+        QCOMPARE(m->menu.chosen(), 0);
     }
 
-    void theHeaderLeadsToTheChannels()
+    void theMenuInTheHeaderLeadsToOtherScreens()
     {
         m->fill();
-        QSignalSpy requests(&m->home, &HomeController::channelsRequested);
-        m->press({ Qt::Key_Up, Qt::Key_Right, Qt::Key_Right, Qt::Key_Return });
-        QCOMPARE(requests.count(), 1);
+        QSignalSpy activated(&m->menu, &gallery::MainMenuController::activated);
+        m->press({ Qt::Key_Up, Qt::Key_Right, Qt::Key_Return });
+        QCOMPARE(activated.count(), 1);
+        QCOMPARE(activated.at(0).at(0).toString(), "guide");
+    }
+
+    void menuKeysLeadIntoTheHeaderAndBack_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::newRow("menu") << int(Qt::Key_Menu);
+        QTest::newRow("red") << int(Qt::Key_Red);
+        QTest::newRow("F1") << int(Qt::Key_F1);
+    }
+    void menuKeysLeadIntoTheHeaderAndBack()
+    {
+        QFETCH(int, key);
+        m->fill();
+        m->press({ Qt::Key_Down, Qt::Key_Right, Qt::Key(key) });
+        QVERIFY(m->home.isInHeader());
+        QVERIFY(!m->menu.isOpen());
+        m->press({ Qt::Key(key) });
+        QVERIFY(!m->home.isInHeader());
+        QCOMPARE(m->home.title(), "F1");
+    }
+
+    void infoOpensTheItem()
+    {
+        m->fill();
+        QSignalSpy opened(&m->home, &HomeController::itemOpened);
+        m->press({ Qt::Key_Info, Qt::Key_F5 });
+        QCOMPARE(opened.count(), 2);
+    }
+
+    void theYellowKeyMakesTheTileAFavouriteOrNone()
+    {
+        m->fill();
+        m->press({ Qt::Key_Down, Qt::Key_Right, Qt::Key_Yellow });
+        QCOMPARE(m->tile(HomeRow::Films, 1, "favourite").toBool(), true);
+        QCOMPARE(m->tile(HomeRow::Films, 0, "favourite").toBool(), false);
+        m->press({ Qt::Key_F3 });
+        QCOMPARE(m->tile(HomeRow::Films, 1, "favourite").toBool(), false);
     }
 
     void returnOpensTheItem()

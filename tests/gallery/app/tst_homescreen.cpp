@@ -30,9 +30,11 @@ class tst_HomeScreen : public ScreenTest
     {
         if (view()->activeFocusItem() == nullptr)
             return "nothing has the focus";
-        // These have tests of their own.
-        if (shell()->screen() == "player" || shell()->screen() == "series")
+        // The others have tests of their own.
+        if (!QStringList { "home", "detail", "guide", "channels" }.contains(shell()->screen()))
             return {};
+        if (shell()->screen() == "home" && home()->isInHeader())
+            return menuProblem();
         if (shell()->screen() != "detail")
             return plateProblem(sceneRect(view()->rootObject()));
         int focused = 0;
@@ -197,6 +199,23 @@ private Q_SLOTS:
         press(Qt::Key_Back);
         QCOMPARE(shell()->screen(), "home");
         QCOMPARE(focusProblem(), QString());
+    }
+
+    void theMenuIsInTheHeader()
+    {
+        start();
+        const QList<QQuickItem *> entries = items("menuEntry");
+        QVERIFY(entries.size() >= 3);
+        QCOMPARE(entries.at(0)->property("text"), "Home");
+        QCOMPARE(entries.at(0)->state(), "checked");
+        QCOMPARE(entries.at(1)->property("text"), "TV guide");
+        QCOMPARE(entries.at(1)->state(), "normal");
+        press(Qt::Key_Up);
+        QCOMPARE(entries.at(0)->state(), "focused");
+        press(Qt::Key_Right);
+        QCOMPARE(entries.at(0)->state(), "checked");
+        QCOMPARE(entries.at(1)->state(), "focused");
+        QCOMPARE(items("menuOverlay").size(), 0);
     }
 
     void leavingIsAnnounced()

@@ -420,6 +420,51 @@ private Q_SLOTS:
         QVERIFY(m->player.hidesWhenIdle());
     }
 
+    void playAndPauseDoWhatTheySayFromAnywhere()
+    {
+        m->player.play(0);
+        m->press({ Qt::Key_MediaPlay });
+        QVERIFY(!m->player.isPaused());
+        m->press({ Qt::Key_MediaPause, Qt::Key_MediaPause });
+        QVERIFY(m->player.isPaused());
+        m->press({ Qt::Key_Play });
+        QVERIFY(!m->player.isPaused());
+        m->press({ Qt::Key_MediaTogglePlayPause });
+        QVERIFY(m->player.isPaused());
+        m->press({ Qt::Key_Space });
+        QVERIFY(!m->player.isPaused());
+    }
+
+    void pausingOnThePictureShowsIt()
+    {
+        m->player.play(0);
+        m->player.hideOverlay();
+        m->press({ Qt::Key_MediaPause });
+        QCOMPARE(m->player.area(), PlayerController::Buttons);
+        QCOMPARE(m->player.button(), PlayerController::PauseButton);
+    }
+
+    void infoShowsTheProgrammesAndHidesThem()
+    {
+        m->player.play(0);
+        m->press({ Qt::Key_Info });
+        QCOMPARE(m->player.area(), PlayerController::Picture);
+        m->press({ Qt::Key_F5 });
+        QCOMPARE(m->player.area(), PlayerController::Programmes);
+        m->press({ Qt::Key_Return, Qt::Key_Info });
+        QCOMPARE(m->player.area(), PlayerController::Programmes);
+    }
+
+    void theYellowKeyMakesTheChannelAFavouriteOrNone()
+    {
+        m->player.play(1);
+        m->press({ Qt::Key_Yellow });
+        QVERIFY(m->favourites.contains("tv:b"));
+        QCOMPARE(m->player.area(), PlayerController::Programmes);
+        m->press({ Qt::Key_F3 });
+        QVERIFY(!m->player.isFavourite());
+    }
+
     void otherKeysAreNotTaken()
     {
         m->player.play(0);

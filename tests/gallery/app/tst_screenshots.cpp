@@ -106,8 +106,8 @@ private Q_SLOTS:
         QCOMPARE(run.exitCode, 0);
         QList<QImage> pictures;
         QString output;
-        for (const QString screen : { "home", "detail", "series", "guide", "channels", "player", "settings",
-                                      "components", "about" }) {
+        for (const QString screen : { "home", "detail", "series", "guide", "channels", "player", "search",
+                                      "settings", "components", "about" }) {
             const QString path = folder + "/" + screen + ".png";
             output += path + "\n";
             const QImage image(path);
@@ -138,8 +138,8 @@ private Q_SLOTS:
                                             "--language", language, "--screenshots", folder });
         QCOMPARE(run.errors, QString());
         QCOMPARE(run.exitCode, 0);
-        for (const QString screen : { "home", "detail", "series", "guide", "channels", "player", "settings",
-                                      "components", "about" }) {
+        for (const QString screen : { "home", "detail", "series", "guide", "channels", "player", "search",
+                                      "settings", "components", "about" }) {
             const QImage image(folder + "/" + screen + ".png");
             QVERIFY(colours(image) > 50);
             QVERIFY(!m_seen.contains(image));

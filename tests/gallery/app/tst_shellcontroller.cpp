@@ -52,7 +52,7 @@ private Q_SLOTS:
         m->start("player");
         QCOMPARE(m->openScreens(), (QStringList { "home", "player" }));
         QCOMPARE(m->player()->title(), "A40");
-        for (const QString screen : { "settings", "about" }) {
+        for (const QString screen : { "search", "settings", "about" }) {
             m->start(screen);
             QCOMPARE(m->openScreens(), (QStringList { "home", screen }));
         }
@@ -282,6 +282,126 @@ private Q_SLOTS:
         QVERIFY(m->home()->isInHeader());
     }
 
+    void everyMenuEntryOpensItsScreen()
+    {
+        fill();
+        const QStringList entries = m->menu()->entries();
+        QVERIFY(entries.size() >= 4);
+        for (int i = 1; i < entries.size(); ++i) {
+            m->start("home");
+            QVERIFY(m->press(Qt::Key_Menu));
+            QVERIFY(m->menu()->isOpen());
+            for (int step = 0; step < i; ++step)
+                m->menu()->press(Qt::Key_Right);
+            m->menu()->press(Qt::Key_Return);
+            QCOMPARE(m->openScreens(), (QStringList { "home", entries.at(i) }));
+            QVERIFY(!m->menu()->isOpen());
+            QCOMPARE(m->menu()->current(), i);
+        }
+    }
+
+    void keysLeadToScreensFromAnywhere_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<QStringList>("screens");
+        QTest::newRow("blue") << int(Qt::Key_Blue) << QStringList { "home", "channels", "search" };
+        QTest::newRow("F4") << int(Qt::Key_F4) << QStringList { "home", "channels", "search" };
+        QTest::newRow("search") << int(Qt::Key_Search) << QStringList { "home", "channels", "search" };
+        QTest::newRow("guide") << int(Qt::Key_Guide) << QStringList { "home", "channels", "guide" };
+        QTest::newRow("home") << int(Qt::Key_HomePage) << QStringList { "home" };
+    }
+    void keysLeadToScreensFromAnywhere()
+    {
+        QFETCH(int, key);
+        fill();
+        m->start("channels");
+        QVERIFY(m->press(key));
+        QTEST(m->openScreens(), "screens");
+        m->press(Qt::Key_Menu);
+        QVERIFY(m->press(key));
+        QVERIFY(!m->menu()->isOpen());
+        QTEST(m->openScreens(), "screens");
+    }
+
+    void otherKeysMeanNothing()
+    {
+        for (const Qt::Key key : { Qt::Key_A, Qt::Key_Green, Qt::Key_Down, Qt::Key_Info })
+            QVERIFY(!m->press(key));
+        QVERIFY(!m->menu()->isOpen());
+    }
+
+    void theMenuClosesWithItsScreen()
+    {
+        fill();
+        m->start("guide");
+        m->press(Qt::Key_Menu);
+        m->goBack();
+        QVERIFY(!m->menu()->isOpen());
+        QCOMPARE(m->menu()->current(), 0);
+    }
+
+    void theSearchStartsAnewUnlessBackLeadsToIt()
+    {
+        fill();
+        m->press(Qt::Key_Blue);
+        m->search()->setText("f");
+        m->search()->press(Qt::Key_Right);
+        m->search()->press(Qt::Key_Return);
+        QCOMPARE(m->openScreens(), (QStringList { "home", "search", "detail" }));
+        m->press(Qt::Key_Blue);
+        QCOMPARE(m->openScreens(), (QStringList { "home", "detail", "search" }));
+        QCOMPARE(m->search()->text(), "f");
+        m->goBack();
+        m->press(Qt::Key_Blue);
+        QCOMPARE(m->search()->text(), QString());
+    }
+
+    void aProgrammeToComeKeepsItsPageUntilItIsOn()
+    {
+        fill();
+        m->start("search");
+        m->search()->setText("a42");
+        m->search()->press(Qt::Key_Right);
+        m->search()->press(Qt::Key_Return);
+        QCOMPARE(m->detail()->title(), "A42");
+        m->clock()->setFixed(guides::at(20, 31));
+        QCOMPARE(m->detail()->title(), "A42");
+        m->clock()->setFixed(guides::at(21, 15));
+        QCOMPARE(m->detail()->title(), "A42");
+        QCOMPARE(m->detail()->progress(), 0.5);
+        m->clock()->setFixed(guides::at(21, 31));
+        QCOMPARE(m->detail()->title(), "A43");
+    }
+
+    void aProgrammeThatIsOverKeepsItsPage()
+    {
+        fill();
+        m->start("search");
+        m->search()->setText("a39");
+        m->search()->press(Qt::Key_Right);
+        m->search()->press(Qt::Key_Return);
+        QCOMPARE(m->detail()->title(), "A39");
+        m->clock()->setFixed(guides::at(20, 31));
+        QCOMPARE(m->detail()->title(), "A39");
+        m->detail()->press(Qt::Key_Return); // is watched from its start
+        QCOMPARE(m->screen(), "player");
+        QCOMPARE(m->player()->title(), "A39");
+    }
+
+    void infoAmongTheChannelsOpensThePageOfWhatIsOn()
+    {
+        fill();
+        m->start("channels");
+        m->channels()->press(Qt::Key_ChannelUp);
+        QVERIFY(m->channels()->press(Qt::Key_Info));
+        QCOMPARE(m->openScreens(), (QStringList { "home", "channels", "detail" }));
+        QCOMPARE(m->detail()->title(), "B25");
+        m->goBack();
+        m->channels()->press(Qt::Key_ChannelUp); // has nothing on
+        QVERIFY(m->channels()->press(Qt::Key_F5));
+        QCOMPARE(m->screen(), "channels");
+    }
+
     void onlyTheHomeScreenLeaves()
     {
         fill();
@@ -327,6 +447,7 @@ private Q_SLOTS:
         QVERIFY(m->home()->isMirrored() && m->detail()->isMirrored() && m->guide()->isMirrored());
         QVERIFY(m->channels()->isMirrored());
         QVERIFY(m->player()->isMirrored() && m->series()->isMirrored() && m->settings()->isMirrored());
+        QVERIFY(m->menu()->isMirrored() && m->search()->isMirrored());
     }
 
     void aStartBringsTheGuideBackToWhatIsOn()

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+import QtQuick
+import Gallery
+
+// The main menu over a screen, which stays as it is meanwhile and is seen as through a veil.
+FocusScope {
+    id: overlay
+
+    required property MainMenuController menu
+    required property string clockText
+
+    objectName: "menuOverlay"
+    Keys.onPressed: event => event.accepted = menu.press(event.key)
+
+    Rectangle {
+        anchors.fill: parent
+        color: Look.badge
+    }
+    Rectangle {
+        id: band
+
+        width: parent.width
+        height: header.y + header.height + Look.small
+        color: Look.backdrop
+    }
+    EdgeFade {
+        anchors.top: band.bottom
+    }
+    HomeHeader {
+        id: header
+
+        anchors.top: parent.top
+        anchors.topMargin: Look.safeY
+        anchors.left: parent.left
+        anchors.leftMargin: Look.safeX
+        anchors.right: parent.right
+        anchors.rightMargin: Look.safeX
+        menu: overlay.menu
+        active: true
+        clockText: overlay.clockText
+    }
+}

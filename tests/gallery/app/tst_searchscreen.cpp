@@ -1,0 +1,306 @@
+// SPDX-License-Identifier: MIT
+#include "catalogues.h"
+#include "screentest.h"
+
+/*! The search in its window, steered with key events. */
+class tst_SearchScreen : public ScreenTest
+{
+    Q_OBJECT
+
+    void start(gallery::Options options = {})
+    {
+        options.screen = "search";
+        // Without movements: each key leads to its end at once.
+        options.screenshotsFolder = "unused";
+        ScreenTest::start(options);
+        shell()->setCatalogue(catalogues::small());
+        shell()->start("search");
+    }
+
+    gallery::SearchController *search() const { return shell()->search(); }
+    void type(const QString &text) const
+    {
+        for (const QChar c : text) {
+            QKeyEvent event(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, c);
+            QCoreApplication::sendEvent(view(), &event);
+        }
+    }
+    /*! Presses \a key until it leads to the results. */
+    void enterResults(Qt::Key key) const
+    {
+        for (int i = 0; i < 20 && !search()->isInResults(); ++i)
+            press(key);
+        QVERIFY(search()->isInResults());
+    }
+    QQuickItem *keyboard() const { return item("searchKeyboard"); }
+
+    /*! Why the focus cannot be seen, or nothing when it can. */
+    QString focusProblem() const
+    {
+        if (search()->isInResults())
+            return plateProblem(sceneRect(item("results")));
+        const QQuickItem *focus = view()->activeFocusItem();
+        if (focus == nullptr || focus->parentItem() != keyboard())
+            return "no key of the keyboard has the focus";
+        if (!items("focusPlate").isEmpty())
+            return "there is a focus plate beside the focused key";
+        return sceneRect(view()->rootObject()).contains(sceneRect(focus)) ? QString()
+                                                                          : "the key is not in sight";
+    }
+
+private Q_SLOTS:
+    void cleanup() { end(); }
+
+    void startsOnTheKeyboardAndSaysWhatToDo()
+    {
+        start();
+        QTRY_COMPARE(focusProblem(), QString());
+        QVERIFY(texts().contains("Type the name of a programme, a film or a series"));
+        QCOMPARE(item("searchText")->property("text").toString(), QString());
+        QCOMPARE(item("searchText")->property("editing").toBool(), true);
+    }
+
+    void okTypesTheKeyAndTheResultsFollow()
+    {
+        start();
+        press(Qt::Key_Return); // the first letter
+        QCOMPARE(search()->text(), "q");
+        QCOMPARE(item("searchText")->property("text").toString(), "q");
+        QVERIFY(texts().contains("Nothing found for “q”"));
+        press(Qt::Key_Backspace);
+        QCOMPARE(search()->text(), QString());
+    }
+
+    void aRealKeyboardTypesAndItsBackspaceDeletes()
+    {
+        start();
+        type("onl");
+        QCOMPARE(search()->text(), "onl");
+        QCOMPARE(search()->cursor(), 3);
+        QCOMPARE(items("tile").size(), 1);
+        QCOMPARE(item("tile")->property("itemTitle").toString(), "Only");
+        press(Qt::Key_Backspace);
+        QCOMPARE(search()->text(), "on");
+    }
+
+    void digitsOfARemoteControlTypeAtTheCursor()
+    {
+        start();
+        type("ab");
+        QMetaObject::invokeMethod(item("searchText"), "moveCursorLeft");
+        QCOMPARE(search()->cursor(), 1);
+        press(Qt::Key_5);
+        QCOMPARE(search()->text(), "a5b");
+        QCOMPARE(item("searchText")->property("cursorPosition").toInt(), 2);
+        type("c");
+        QCOMPARE(search()->text(), "a5cb");
+    }
+
+    void theArrowBeyondTheLastKeyLeadsToTheResultsAndBack()
+    {
+        start();
+        type("f");
+        for (int i = 0; i < 12 && !search()->isInResults(); ++i) {
+            QTRY_COMPARE(focusProblem(), QString());
+            press(Qt::Key_Right);
+        }
+        QVERIFY(search()->isInResults());
+        QTRY_COMPARE(focusProblem(), QString());
+        QCOMPARE(item("searchText")->property("editing").toBool(), false);
+        press(Qt::Key_Left);
+        QVERIFY(!search()->isInResults());
+        QTRY_COMPARE(focusProblem(), QString());
+    }
+
+    void upAndDownGoAroundTheKeyboardBesideTheResults()
+    {
+        start();
+        type("f");
+        for (int i = 0; i < 12; ++i) {
+            press(Qt::Key_Down);
+            QVERIFY(!search()->isInResults());
+        }
+    }
+
+    void onANarrowScreenTheResultsAreBelow()
+    {
+        gallery::Options options;
+        options.resolution = "sd";
+        start(options);
+        type("f");
+        for (int i = 0; i < 20; ++i)
+            press(Qt::Key_Right);
+        QVERIFY(!search()->isInResults());
+        enterResults(Qt::Key_Down);
+        QTRY_COMPARE(focusProblem(), QString());
+        press(Qt::Key_Up);
+        QVERIFY(!search()->isInResults());
+    }
+
+    void inArabicTheResultsAreAtTheLeft()
+    {
+        gallery::Options options;
+        options.language = "ar";
+        start(options);
+        type("f");
+        QVERIFY(sceneRect(item("results")).right() < sceneRect(keyboard()).left() + 20);
+        enterResults(Qt::Key_Left);
+        press(Qt::Key_Left);
+        QCOMPARE(search()->resultRow(), 1);
+        press(Qt::Key_Right);
+        press(Qt::Key_Right);
+        QVERIFY(!search()->isInResults());
+    }
+
+    void theKeyboardHasTheLettersOfTheLanguage_data()
+    {
+        QTest::addColumn<QString>("language");
+        for (const QString language : { "en", "ru", "de", "ar" })
+            QTest::newRow(qPrintable(language)) << language;
+    }
+    void theKeyboardHasTheLettersOfTheLanguage()
+    {
+        QFETCH(QString, language);
+        gallery::Options options;
+        options.language = language;
+        start(options);
+        QCOMPARE(keyboard()->property("language").toString(), language);
+    }
+
+    void everyResultIsWhollySeenWhileItIsChosen_data()
+    {
+        QTest::addColumn<QString>("resolution");
+        QTest::addColumn<QString>("language");
+        for (const QString resolution : { "hd", "fullhd", "sd" }) {
+            for (const QString language : { "en", "ar" })
+                QTest::addRow("%s %s", qPrintable(resolution), qPrintable(language))
+                        << resolution << language;
+        }
+    }
+    void everyResultIsWhollySeenWhileItIsChosen()
+    {
+        QFETCH(QString, resolution);
+        QFETCH(QString, language);
+        gallery::Options options;
+        options.resolution = resolution;
+        options.language = language;
+        start(options);
+        shell()->setCatalogue(gallery::Catalogue(catalogues::films(18)));
+        type("f");
+        enterResults(resolution == "sd" ? Qt::Key_Down : language == "ar" ? Qt::Key_Left : Qt::Key_Right);
+        QVERIFY(search()->columns() >= 2);
+        for (const Qt::Key key :
+             { Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Up, Qt::Key_Up,
+               Qt::Key_End, Qt::Key_Up, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home }) {
+            press(key);
+            QVERIFY(search()->isInResults());
+            QTRY_COMPARE(focusProblem(), QString());
+            const auto *grid = item("results");
+            const qreal line = grid->property("itemHeight").toReal()
+                               + grid->property("verticalSpacing").toReal();
+            QTRY_COMPARE(grid->property("contentY").toReal(),
+                         search()->firstLine() * line - grid->property("topMargin").toReal());
+        }
+        const QRectF safe = sceneRect(view()->rootObject())
+                                    .adjusted(view()->width() / 20.0 - 20, view()->height() / 20.0,
+                                              20 - view()->width() / 20.0, -view()->height() / 20.0);
+        QCOMPARE(plateProblem(safe), QString());
+    }
+
+    void okOpensThePageAndBackReturnsToTheResult()
+    {
+        start();
+        type("f");
+        enterResults(Qt::Key_Right);
+        press(Qt::Key_Right);
+        press(Qt::Key_Return);
+        QCOMPARE(shell()->openScreens(), (QStringList { "home", "search", "detail" }));
+        QCOMPARE(shell()->detail()->title(), "F1");
+        press(Qt::Key_Back);
+        QCOMPARE(shell()->screen(), "search");
+        QVERIFY(search()->isInResults());
+        QTRY_COMPARE(focusProblem(), QString());
+        press(Qt::Key_Back);
+        QTRY_COMPARE(focusProblem(), QString());
+        press(Qt::Key_Back);
+        QCOMPARE(shell()->screen(), "home");
+    }
+
+    void aScreenThatIsMadeAnewLooksTheSame()
+    {
+        start();
+        shell()->setCatalogue(gallery::Catalogue(catalogues::films(18)));
+        type("fx");
+        press(Qt::Key_Backspace);
+        press(Qt::Key_Down); // another key
+        enterResults(Qt::Key_Right);
+        press(Qt::Key_End);
+        press(Qt::Key_Up);
+        QTRY_COMPARE(focusProblem(), QString());
+        const QRectF plate = sceneRect(item("focusPlate"));
+        const int key = keyboard()->property("currentKey").toInt();
+        const QUrl source = view()->source();
+        view()->setInitialProperties({ { "controller", QVariant::fromValue(shell()) } });
+        view()->setSource({});
+        view()->setSource(source);
+        QTRY_COMPARE(focusProblem(), QString());
+        QCOMPARE(sceneRect(item("focusPlate")), plate);
+        QCOMPARE(keyboard()->property("currentKey").toInt(), key);
+        QCOMPARE(item("searchText")->property("text").toString(), "f");
+        QCOMPARE(item("searchText")->property("cursorPosition").toInt(), 1);
+    }
+
+    void theMenuLeavesTheTextAlone()
+    {
+        start();
+        type("f");
+        press(Qt::Key_Menu);
+        QCOMPARE(menuProblem(), QString());
+        type("x");
+        press(Qt::Key_5);
+        press(Qt::Key_Menu);
+        QCOMPARE(search()->text(), "f");
+        QTRY_COMPARE(focusProblem(), QString());
+        type("1");
+        QCOMPARE(search()->text(), "f1");
+    }
+
+    void theFocusIsSeenAfterAnyKeys_data()
+    {
+        QTest::addColumn<QString>("resolution");
+        QTest::addColumn<QString>("language");
+        QTest::newRow("beside") << "hd"
+                                << "en";
+        QTest::newRow("mirrored") << "hd"
+                                  << "ar";
+        QTest::newRow("below") << "sd"
+                               << "en";
+    }
+    void theFocusIsSeenAfterAnyKeys()
+    {
+        QFETCH(QString, resolution);
+        QFETCH(QString, language);
+        gallery::Options options;
+        options.resolution = resolution;
+        options.language = language;
+        start(options);
+        QRandomGenerator random(20261123);
+        QList<Qt::Key> keys = remoteKeys();
+        keys.removeOne(Qt::Key_Back); // leads to the home screen
+        keys.append({ Qt::Key_Backspace, Qt::Key_Backspace, Qt::Key_1, Qt::Key_Down, Qt::Key_Right });
+        for (int step = 0; step < 1000; ++step) {
+            if (random.bounded(12) == 0)
+                type(QString("fsao").at(random.bounded(4)));
+            else
+                press(keys.at(random.bounded(int(keys.size()))));
+            if (shell()->screen() != "search")
+                shell()->goBack();
+            QString problem;
+            QVERIFY2(QTest::qWaitFor([&] { return (problem = focusProblem()).isEmpty(); }),
+                     qPrintable(QStringLiteral("step %1: %2").arg(step).arg(problem)));
+        }
+    }
+};
+
+STB_TEST_MAIN(tst_SearchScreen)
+#include "tst_searchscreen.moc"
