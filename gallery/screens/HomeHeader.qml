@@ -2,7 +2,7 @@
 import QtQuick
 import Gallery
 
-// The main menu, and the time.
+// The main menu, and the time. What is at the edge of the menu fades into the ground, which is plain up here.
 Item {
     id: header
 
@@ -15,6 +15,20 @@ Item {
 
     implicitHeight: entries.implicitHeight
 
+    Rectangle {
+        id: ground
+
+        x: -header.x
+        y: -header.y
+        width: Look.screenWidth
+        height: header.y + header.height + Look.small
+        color: Look.backdrop
+    }
+    EdgeFade {
+        anchors.top: ground.bottom
+        anchors.left: ground.left
+        width: ground.width
+    }
     MainMenu {
         id: entries
 

@@ -61,12 +61,14 @@ Item {
                 delegate: MainMenuButton {
                     required property int index
                     required property string modelData
+                    readonly property bool current: index === mainMenu.menu.current
+                    readonly property bool chosen: mainMenu.active && index === mainMenu.menu.chosen
 
                     objectName: "menuEntry"
                     text: mainMenu.menu.text(modelData)
-                    checked: index === mainMenu.menu.current
-                    state: mainMenu.active && index === mainMenu.menu.chosen ? "focused"
-                                                                             : checked ? "checked" : "normal"
+                    checked: current
+                    // Not by what is checked, which the states set themselves.
+                    state: chosen ? "focused" : current ? "checked" : "normal"
                 }
                 // qmllint enable unqualified
             }

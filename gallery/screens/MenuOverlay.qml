@@ -16,19 +16,7 @@ FocusScope {
         anchors.fill: parent
         color: Look.badge
     }
-    Rectangle {
-        id: band
-
-        width: parent.width
-        height: header.y + header.height + Look.small
-        color: Look.backdrop
-    }
-    EdgeFade {
-        anchors.top: band.bottom
-    }
     HomeHeader {
-        id: header
-
         anchors.top: parent.top
         anchors.topMargin: Look.safeY
         anchors.left: parent.left

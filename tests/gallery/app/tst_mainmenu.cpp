@@ -94,6 +94,24 @@ private Q_SLOTS:
         QCOMPARE(shell()->guide()->title(), "A41");
     }
 
+    void afterAWayThroughScreensOneEntryIsMarked()
+    {
+        start("guide");
+        for (const QString screen : { "guide", "channels", "search", "guide", "home" }) {
+            shell()->start(screen);
+            if (screen != "home")
+                press(Qt::Key_Menu);
+            QStringList marked;
+            const QList<QQuickItem *> entries = items("menuEntry");
+            for (int i = 0; i < entries.size(); ++i) {
+                if (entries.at(i)->property("checked").toBool())
+                    marked.append(menu()->entries().at(i));
+            }
+            QCOMPARE(marked, QStringList { screen });
+            QCOMPARE(entries.at(menu()->current())->state(), screen == "home" ? "checked" : "focused");
+        }
+    }
+
     void theEntryOfTheScreenThatIsShownOnlyCloses()
     {
         start("guide");
