@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "catalogues.h"
 #include "channels.h"
 #include "screentest.h"
 
@@ -154,6 +155,23 @@ private Q_SLOTS:
         QVERIFY(!texts().contains("Close"));
     }
 
+    void onlyKeysThatDoSomethingHaveHints()
+    {
+        start();
+        guide()->setGuide({});
+        for (const char *hint : { "Channel", "Programme", "Day", "Details" })
+            QVERIFY2(!texts().contains(QLatin1String(hint)), hint);
+        guide()->setGuide(described(1));
+        QVERIFY(!texts().contains("Channel"));
+        QVERIFY(texts().contains("Programme"));
+        press(Qt::Key_MediaNext);
+        QCOMPARE(guide()->programmeRow(), -1);
+        QVERIFY(!texts().contains("Programme"));
+        QCOMPARE(texts().count("Day"), 2); // one hint, and the label in it
+        press(Qt::Key_Up);
+        QVERIFY(guide()->isInDays());
+    }
+
     void behindTheDetailsTheListStaysWhereItIs()
     {
         start();
@@ -203,6 +221,21 @@ private Q_SLOTS:
         shell()->openPlayer(0);
         QVERIFY(!shell()->player()->canZap());
         QVERIFY(!texts().contains("Channel"));
+    }
+
+    void theEpisodesHaveHints()
+    {
+        start("series");
+        shell()->setCatalogue(catalogues::seasons());
+        shell()->start("series");
+        QCOMPARE(shell()->screen(), "series");
+        for (const char *hint : { "Episode", "Watch", "Leave" })
+            QVERIFY2(texts().contains(QLatin1String(hint)), hint);
+        press(Qt::Key_Home);
+        press(Qt::Key_Up);
+        QVERIFY(shell()->series()->isInSeasons());
+        for (const char *hint : { "Season", "Episodes", "Leave" })
+            QVERIFY2(texts().contains(QLatin1String(hint)), hint);
     }
 };
 
