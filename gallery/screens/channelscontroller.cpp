@@ -81,9 +81,11 @@ ChannelsController::ChannelsController(Clock *clock, QObject *parent)
     m_channels.setNow(m_clock->now());
 }
 
-void ChannelsController::setGuide(const Guide &guide)
+void ChannelsController::setGuide(const Guide &guide, Content content)
 {
     const QStringList groups = groupsOf(guide);
+    if (content == Content::Translated)
+        m_group = groups.value(groupIndex());
     const bool otherGroups = groups != m_groups;
     m_groups = groups;
     const int playing = guide.channelIndex(m_playingId);

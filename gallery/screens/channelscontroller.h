@@ -3,6 +3,7 @@
 #define GALLERY_SCREENS_CHANNELSCONTROLLER_H
 
 #include "screens/channelrows.h"
+#include "screens/content.h"
 #include "screens/mediaitem.h"
 
 #include <QtCore/qstringlist.h>
@@ -67,9 +68,9 @@ public:
         Shows the channels of \a guide. The chosen channel and the one that plays stay when the guide still has them; else
         the channel in the same row is chosen. So does the group, unless the chosen channel is in another one now. At
         first, and when the one that plays has gone or is locked, the first channel that has something on and is not
-        locked plays.
+        locked plays. The groups of a translated guide have other names, and the same order.
     */
-    void setGuide(const Guide &guide);
+    void setGuide(const Guide &guide, Content content = Content::Other);
     Guide guide() const { return m_channels.guide(); }
     /*! As at the start: all channels, and the one that plays is chosen. */
     void start();

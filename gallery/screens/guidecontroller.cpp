@@ -21,10 +21,7 @@ GuideController::GuideController(Clock *clock, QObject *parent)
     connect(m_clock, &Clock::nowChanged, this, &GuideController::tick);
     connect(&m_loader, &GuideLoader::loadingChanged, this, &GuideController::loadingChanged);
     connect(&m_loader, &GuideLoader::progressChanged, this, &GuideController::loadProgressChanged);
-    connect(&m_loader, &GuideLoader::finished, this, [this] {
-        Q_EMIT messageChanged();
-        take(m_loader.guide());
-    });
+    connect(&m_loader, &GuideLoader::finished, this, &GuideController::takeLoaded);
 }
 
 void GuideController::setReminders(Reminders *reminders)
@@ -40,22 +37,34 @@ void GuideController::setReminders(Reminders *reminders)
 
 void GuideController::load(const GuideFiles &files)
 {
+    const bool same = files.guide == m_files.guide && files.playlist == m_files.playlist;
+    m_loading = contentIn(files.language, same);
     m_files = files;
     m_showsOwnGuide = files.guide.isEmpty();
     m_loader.load(files);
 }
 
+void GuideController::takeLoaded()
+{
+    Q_EMIT messageChanged();
+    const bool unreadable = report().outcome == GuideReport::Outcome::Unreadable
+                            || playlistReport().outcome == PlaylistReport::Outcome::Unreadable;
+    if (m_loading == Content::Other || !unreadable)
+        take(m_loader.guide(), m_loading);
+}
+
 void GuideController::showOwnGuide(const QString &language)
 {
+    const Content content = contentIn(language, m_showsOwnGuide && m_files.playlist.isEmpty());
     m_files = { {}, {}, language, {} };
     m_showsOwnGuide = true;
-    take(ownGuide(m_clock->now(), language));
+    take(ownGuide(m_clock->now(), language), content);
 }
 
 void GuideController::setGuide(const Guide &guide)
 {
     m_showsOwnGuide = false;
-    take(guide);
+    take(guide, Content::Other);
 }
 
 void GuideController::renewOwnGuide()
@@ -63,14 +72,23 @@ void GuideController::renewOwnGuide()
     if (!m_showsOwnGuide)
         return;
     m_files.now = m_clock->now();
+    m_loading = Content::Other;
     if (m_files.playlist.isEmpty())
-        take(ownGuide(m_files.now, m_files.language));
+        take(ownGuide(m_files.now, m_files.language), Content::Other);
     else
         m_loader.load(m_files);
 }
 
-void GuideController::take(const Guide &guide)
+// What a guide in \a language is to the one that is shown, when it is made of the \a same things.
+Content GuideController::contentIn(const QString &language, bool same) const
 {
+    const bool shown = m_channelRow >= 0;
+    return shown && same && language != m_files.language ? Content::Translated : Content::Other;
+}
+
+void GuideController::take(const Guide &guide, Content content)
+{
+    m_content = content;
     const Kept before = kept();
     const bool again = m_channelRow >= 0;
     m_channels.setGuide(guide);
@@ -134,13 +152,19 @@ void GuideController::chooseAgain(int row)
     tellSelection();
 }
 
-// The row of the programme that \a kept tells of, also when it was moved by an hour at most; -1 without.
+// The row of the programme that \a kept tells of, also when it was moved by an hour at most; -1 without. A translated one
+// has another title.
 int GuideController::rowOf(const Kept &kept) const
 {
     if (!kept.start.isValid() || m_channelRow < 0)
         return -1;
-    return m_programmes.rowOf(
-            shownGuide().programmeLike(m_channelRow, kept.start.toSecsSinceEpoch(), kept.title));
+    const Guide guide = shownGuide();
+    const qint64 start = kept.start.toSecsSinceEpoch();
+    if (m_content == Content::Other)
+        return m_programmes.rowOf(guide.programmeLike(m_channelRow, start, kept.title));
+    const int programme = guide.programmeAt(m_channelRow, start);
+    const bool same = programme >= 0 && guide.timeSpan(m_channelRow, programme).start == start;
+    return same ? m_programmes.rowOf(programme) : -1;
 }
 
 QString GuideController::channelNumber() const

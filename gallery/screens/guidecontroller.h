@@ -6,6 +6,7 @@
 #include "gallery/data/guideloader.h"
 #include "gallery/data/reminders.h"
 #include "screens/channelnowmodel.h"
+#include "screens/content.h"
 #include "screens/daymodel.h"
 #include "screens/guideprogrammemodel.h"
 
@@ -107,10 +108,15 @@ public:
 
     /*!
         Reads \a files and shows the guide that they make; see GuideLoader. Without a guide file they are read again when
-        a new day begins, since the own guide lies around the present one.
+        a new day begins, since the own guide lies around the present one. The same files in another language are a
+        translation, of which the chosen programme is found by its start alone; when they cannot be read any more, the
+        guide that is shown stays.
     */
     void load(const GuideFiles &files);
-    /*! Shows the own guide in \a language, and on each new day the one that lies around it. */
+    /*!
+        Shows the own guide in \a language, and on each new day the one that lies around it. In another language than
+        before it is a translation.
+    */
     void showOwnGuide(const QString &language);
     /*!
         Shows \a guide: the first time as start() does. Later the chosen channel stays chosen, found by its id (without
@@ -118,6 +124,8 @@ public:
         its title within the hour before or after, else by its time.
     */
     void setGuide(const Guide &guide);
+    /*! What the guide that is shown is to the one before it. */
+    Content content() const { return m_content; }
     Guide shownGuide() const { return m_channels.guide(); }
     /*! Where reminders are kept; null (the default): none can be set. Not owned. */
     void setReminders(Reminders *reminders);
@@ -219,7 +227,8 @@ private:
         QDateTime start;
     };
 
-    void take(const Guide &guide);
+    Content contentIn(const QString &language, bool same) const;
+    void take(const Guide &guide, Content content);
     void renewOwnGuide();
     QVariant chosen(ProgrammeModel::Role role) const;
     QString channelNameAt(int row) const;
@@ -248,6 +257,7 @@ private:
     Kept kept() const;
     void restore(const Guide &guide, const Kept &kept);
     int rowOf(const Kept &kept) const;
+    void takeLoaded();
     void chooseAgain(int row);
     void tellSelection();
     void tick();
@@ -255,11 +265,13 @@ private:
 
     Clock *m_clock;
     GuideLoader m_loader;
+    Content m_loading = Content::Other;
+    Content m_content = Content::Other;
     ChannelNowModel m_channels;
     GuideProgrammeModel m_programmes;
     DayModel m_days;
     QPointer<Reminders> m_reminders;
-    GuideFiles m_files; // what the own guide is made with; of no interest when another one is shown
+    GuideFiles m_files; // what the guide is made of; of no interest when another one was set
     bool m_showsOwnGuide = false;
     QDateTime m_anchor; // the time that a change of channel keeps
     QTime m_timeOfDay; // of the anchor; a day on which the clocks change does not change it

@@ -35,7 +35,7 @@ void HomeController::showProgrammes()
     Q_EMIT itemsChanged();
 }
 
-void HomeController::setCatalogue(const Catalogue &catalogue)
+void HomeController::setCatalogue(const Catalogue &catalogue, Content content)
 {
     QList<MediaItem> films;
     QList<MediaItem> series;
@@ -55,7 +55,8 @@ void HomeController::setCatalogue(const Catalogue &catalogue)
     m_rows.setItems(HomeRow::Films, films);
     m_rows.setItems(HomeRow::Series, series);
     m_rows.setItems(HomeRow::ContinueWatching, started);
-    m_favourites->reset(favourites);
+    if (content == Content::Other)
+        m_favourites->reset(favourites);
     repairFocus();
     Q_EMIT itemsChanged();
 }

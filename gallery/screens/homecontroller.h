@@ -4,6 +4,7 @@
 
 #include "gallery/data/catalogue.h"
 #include "gallery/data/guide.h"
+#include "screens/content.h"
 #include "screens/homerows.h"
 
 namespace gallery {
@@ -43,7 +44,8 @@ public:
     HomeController(Clock *clock, Marks *favourites, MainMenuController *menu, QObject *parent = nullptr);
 
     void setGuide(const Guide &guide);
-    void setCatalogue(const Catalogue &catalogue);
+    /*! The favourites are those of \a catalogue then; those of a translated one stay what the viewer has made them. */
+    void setCatalogue(const Catalogue &catalogue, Content content = Content::Other);
     /*! As at the start: every row at its first tile, and keys act on the first row. */
     void start();
     /*! The keys act on the menu in the header. */

@@ -33,25 +33,39 @@ SeriesController::SeriesController(Clock *clock, QObject *parent)
     connect(m_clock, &Clock::nowChanged, this, &SeriesController::tick);
 }
 
-void SeriesController::setCatalogue(const Catalogue &catalogue)
+void SeriesController::setCatalogue(const Catalogue &catalogue, Content content)
 {
     const MediaItem chosen = episode() == nullptr ? MediaItem() : *episode();
+    const int chosenRow = m_episodeRow;
+    const Outcome outcome = m_outcome;
     m_catalogue = catalogue;
     if (m_title.isEmpty())
         return;
-    int series = 0;
-    while (series < catalogue.count()
-           && !(isSeries(catalogue, series) && catalogue.entry(series).title == m_title))
-        ++series;
-    read(series);
+    read(indexOfSeries(content));
     choose(chosen);
+    if (content == Content::Other || chosenRow >= m_episodes.count())
+        return;
+    // Neither number nor title tells episodes from each other that have the same one.
+    chooseEpisode(chosenRow);
+    setOutcome(outcome);
+}
+
+// Of the series that is shown, in a catalogue that is new; the number of entries without it.
+int SeriesController::indexOfSeries(Content content) const
+{
+    if (content == Content::Translated && isSeries(m_catalogue, m_series))
+        return m_series;
+    int series = 0;
+    while (series < m_catalogue.count()
+           && !(isSeries(m_catalogue, series) && m_catalogue.entry(series).title == m_title))
+        ++series;
+    return series;
 }
 
 bool SeriesController::show(int series, int entry)
 {
     if (!isSeries(m_catalogue, series))
         return false;
-    m_title = m_catalogue.entry(series).title;
     m_inSeasons = false;
     m_seasonRow = 0;
     m_episodeRow = 0;
@@ -73,6 +87,9 @@ bool SeriesController::showFirst()
 
 void SeriesController::read(int series)
 {
+    m_series = series;
+    if (isSeries(m_catalogue, series))
+        m_title = m_catalogue.entry(series).title;
     m_all.clear();
     m_seasons.clear();
     for (int i = 0; i < m_catalogue.count(); ++i) {

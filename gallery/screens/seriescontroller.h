@@ -3,6 +3,7 @@
 #define GALLERY_SCREENS_SERIESCONTROLLER_H
 
 #include "gallery/data/catalogue.h"
+#include "screens/content.h"
 #include "screens/episodemodel.h"
 
 #include <QtCore/qobject.h>
@@ -51,9 +52,10 @@ public:
 
     /*!
         Takes \a catalogue in place of the one before. A series that it has too, by its title, stays, and so do the
-        season and the episode that are chosen; without it there are no episodes.
+        season and the episode that are chosen; without it there are no episodes. In a translated catalogue everything has
+        its place, and what comes of the last press of Return stays too.
     */
-    void setCatalogue(const Catalogue &catalogue);
+    void setCatalogue(const Catalogue &catalogue, Content content = Content::Other);
     /*!
         Shows the series with the index \a series in the catalogue, with the keys on the episode \a entry; without
         one, or when it is none of the series, on the first that is not viewed yet. False when there is no such
@@ -108,6 +110,7 @@ private:
 
     bool pressInSeasons(int key);
     bool pressInEpisodes(int key);
+    int indexOfSeries(Content content) const;
     void read(int series);
     MediaItem firstToWatch() const;
     void choose(const MediaItem &wanted);
@@ -123,6 +126,7 @@ private:
     Catalogue m_catalogue;
     QTimer m_timer;
     QString m_title;
+    int m_series = -1; // in the catalogue
     QList<MediaItem> m_all; // the episodes of all seasons, in their order
     QList<int> m_seasons; // their numbers
     EpisodeModel m_episodes;

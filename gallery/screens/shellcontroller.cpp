@@ -54,7 +54,7 @@ void ShellController::connectScreens()
     connect(&m_detail, &DetailController::backRequested, this, &ShellController::goBack);
     connect(&m_guide, &GuideController::guideShown, this, [this] {
         m_home.setGuide(m_guide.shownGuide());
-        m_channels.setGuide(m_guide.shownGuide());
+        m_channels.setGuide(m_guide.shownGuide(), m_guide.content());
         m_player.setGuide(m_guide.shownGuide());
         m_search.setGuide(m_guide.shownGuide());
     });
@@ -127,10 +127,10 @@ void ShellController::start(const QString &screen)
     }
 }
 
-void ShellController::setCatalogue(const Catalogue &catalogue)
+void ShellController::setCatalogue(const Catalogue &catalogue, Content content)
 {
-    m_home.setCatalogue(catalogue);
-    m_series.setCatalogue(catalogue);
+    m_home.setCatalogue(catalogue, content);
+    m_series.setCatalogue(catalogue, content);
     m_search.setCatalogue(catalogue);
 }
 

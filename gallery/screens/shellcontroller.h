@@ -82,7 +82,7 @@ public:
     */
     void start(const QString &screen);
     /*! Shows the films and series of \a catalogue. */
-    void setCatalogue(const Catalogue &catalogue);
+    void setCatalogue(const Catalogue &catalogue, Content content = Content::Other);
     /*!
         Handles a remote key that the screen that is shown does not know; false when it means nothing here either. The
         menu keys lay the main menu over the screen, other keys lead to a screen at once.
