@@ -57,8 +57,9 @@ Item {
         rightMargin: LayoutMirroring.enabled ? Look.safeX : width
         model: tileRow.row.tiles
         currentIndex: tileRow.row.current
-        contentX: LayoutMirroring.enabled ? Look.safeX - width - tileRow.row.first * tileRow.step
-                                          : tileRow.row.first * tileRow.step - Look.safeX
+        // A list that is made far from its first tile does not get there before it knows how long it is: once more then.
+        contentX: contentWidth - contentWidth + (LayoutMirroring.enabled ? Look.safeX - width - tileRow.row.first * tileRow.step
+                                                                         : tileRow.row.first * tileRow.step - Look.safeX)
         highlightFollowsCurrentItem: false
         // With Qt 6.4 a component cannot say that it belongs where it stands; the linter asks for that.
         // qmllint disable unqualified
