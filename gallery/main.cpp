@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/application.h"
+#include "app/program.h"
 
 int main(int argc, char **argv)
 {

@@ -4,7 +4,6 @@
 #include "app/keyrun.h"
 #include "app/languages.h"
 #include "gallery/data/catalogueloader.h"
-#include "screens/pictureprovider.h"
 #include "screens/shellcontroller.h"
 
 #include <QtCore/qdir.h>
@@ -12,13 +11,9 @@
 #include <QtCore/qtextstream.h>
 #include <QtCore/qtimer.h>
 #include <QtGui/qguiapplication.h>
-#include <QtQml/qqmlengine.h>
+#include <QtGui/qstylehints.h>
 #include <QtQml/qqmlextensionplugin.h>
-#include <QtQuick/qquickitem.h>
-#include <QtQuick/qquickview.h>
 #include <QtQuick/qsgrendererinterface.h>
-
-#include <cstdlib>
 
 Q_IMPORT_QML_PLUGIN(GalleryPlugin)
 
@@ -28,23 +23,12 @@ namespace gallery {
 
 namespace {
 
+// As the zlib level 1: a third of the time of Qt's own choice, and files that are a little larger.
+constexpr int pictureQuality = 85;
+
 bool wantsPictures(const Options &options)
 {
     return !options.screenshotsFolder.isEmpty();
-}
-
-void printError(const QString &message)
-{
-    QTextStream(stderr) << "stbui-gallery: " << message << Qt::endl;
-}
-
-/*! Ends the program with one line, where Qt would dump core because there is no display to show a window on. */
-void endWithoutDisplay(QtMsgType type, const QMessageLogContext &, const QString &)
-{
-    if (type != QtFatalMsg)
-        return;
-    printError(u"there is no display; --screenshots writes pictures without one, by the software renderer"_s);
-    std::_Exit(int(ExitCode::Failure));
 }
 
 /*!
@@ -69,37 +53,48 @@ QString remindersFile()
     return folder.isEmpty() ? QString() : folder + "/stbui/reminders.json"_L1;
 }
 
+/*! The language that \a configuration asks for, else the system's, as far as the gallery speaks it. */
+QString languageOf(const RunConfiguration &configuration)
+{
+    const QString configured = configuration.value(u"UI"_s, u"language"_s, {}).toString();
+    return bestLanguage(configured.isEmpty() ? QLocale::system().uiLanguages() : QStringList(configured));
+}
+
+/*! Whether \a configuration says other things than before when it has for this run what \a picture varies. */
+bool choose(RunConfiguration &configuration, const Picture &picture)
+{
+    bool changed = false;
+    const auto take = [&](const QString &key, const QString &value) {
+        changed = changed || configuration.value(u"UI"_s, key, {}) != value;
+        configuration.setForRun(u"UI"_s, key, value);
+    };
+    if (!picture.theme.isEmpty())
+        take(u"theme"_s, configuredTheme(picture.theme));
+    if (!picture.resolution.isEmpty())
+        take(u"resolution"_s, picture.resolution);
+    if (!picture.language.isEmpty())
+        take(u"language"_s, picture.language);
+    return changed;
+}
+
 } // namespace
 
-void prepareEnvironment(const Options &options)
+void printError(const QString &message)
 {
-    if (options.backend == "software"_L1 || (options.backend.isEmpty() && wantsPictures(options)))
-        qputenv("QT_QUICK_BACKEND", "software");
-    else if (options.backend == "rhi"_L1)
-        qunsetenv("QT_QUICK_BACKEND");
-    if (!wantsPictures(options))
-        return;
-    // Without a display there is only the software renderer; another one needs the display there is.
-    if (options.backend != "rhi"_L1)
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    for (const char *name : { "QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_USE_PHYSICAL_DPI" })
-        qunsetenv(name);
-    qputenv("QT_FONT_DPI", "96");
+    QTextStream(stderr) << "stbui-gallery: " << message << Qt::endl;
 }
 
 Application::Application(const Options &options, QObject *parent)
     : QObject(parent)
     , m_options(options)
+    , m_pictures(picturePlan(options))
+    , m_startScreen(options.screen.isEmpty() ? screenNames().constFirst() : options.screen)
     , m_shell(std::make_unique<ShellController>(remindersFile()))
     , m_catalogueLoader(std::make_unique<CatalogueLoader>())
 {
     if (m_options.now.isValid())
         m_shell->clock()->setFixed(m_options.now);
-    m_screens = screenNames();
-    if (!m_options.screen.isEmpty())
-        m_screens = QStringList { m_options.screen };
-    else if (!wantsPictures(m_options))
-        m_screens = QStringList { m_screens.constFirst() };
+    connect(&m_themeWatcher, &ThemeWatcher::changed, this, &Application::rebuild);
 }
 
 Application::~Application() = default;
@@ -107,77 +102,116 @@ Application::~Application() = default;
 bool Application::start()
 {
     setUpConfiguration();
-    if (!setUpLanguage() || !setUpView())
+    m_shell->settings()->setStore(&m_configuration);
+    connect(m_shell->settings(), &SettingsController::changed, this, &Application::rebuild);
+    setUpView();
+    if (!useLanguage(languageOf(m_configuration)) || !buildScreens())
         return false;
-    m_shell->start(m_screens.constFirst());
-    m_loading = 2;
-    loadCatalogue();
-    loadGuide();
+    m_shell->start(m_startScreen);
+    readFiles(Content::Other);
     return true;
 }
 
 void Application::setUpConfiguration()
 {
     if (!m_options.resolution.isEmpty())
-        m_configuration.setValue(u"UI"_s, u"resolution"_s, m_options.resolution);
-    if (!m_options.themeFile.isEmpty())
-        m_configuration.setValue(u"UI"_s, u"theme"_s, QFileInfo(m_options.themeFile).absoluteFilePath());
+        m_configuration.setForRun(u"UI"_s, u"resolution"_s, m_options.resolution);
+    if (!m_options.theme.isEmpty())
+        m_configuration.setForRun(u"UI"_s, u"theme"_s, configuredTheme(m_options.theme));
     if (!m_options.language.isEmpty())
-        m_configuration.setValue(u"UI"_s, u"language"_s, m_options.language);
-    if (!wantsPictures(m_options))
+        m_configuration.setForRun(u"UI"_s, u"language"_s, m_options.language);
+    if (m_pictures.isEmpty())
         return;
+    choose(m_configuration, m_pictures.constFirst());
+    // Keys that are pressed for a picture are no wishes of the user.
+    m_configuration.setReadOnly(true);
     // A picture shows where a movement ends, not some moment of it.
     for (const QString &key : { u"focusingEnabled"_s, u"layoutScrollingEnabled"_s,
                                 u"viewportScrollingEnabled"_s, u"fadeEffectEnabled"_s, u"slidingEnabled"_s })
-        m_configuration.setValue(u"Animations"_s, key, false);
+        m_configuration.setForRun(u"Animations"_s, key, false);
+    QGuiApplication::styleHints()->setCursorFlashTime(0);
 }
 
-bool Application::setUpLanguage()
+void Application::setUpView()
 {
-    const QString configured = m_configuration.value(u"UI"_s, u"language"_s, {}).toString();
-    m_language = bestLanguage(configured.isEmpty() ? QLocale::system().uiLanguages()
-                                                   : QStringList(configured));
-    if (!installLanguage(m_language)) {
-        m_error = u"the texts of the language \"%1\" cannot be loaded"_s.arg(m_language);
-        return false;
-    }
+    m_view = std::make_unique<ScreenWindow>(QUrl(u"qrc:/Gallery/Shell.qml"_s),
+                                            moduleFolders() + QStringList { u"qrc:/"_s });
+    m_view->setTitle(QCoreApplication::applicationName());
     const auto mirror = [this] {
         m_shell->setMirrored(QGuiApplication::layoutDirection() == Qt::RightToLeft);
     };
     connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this, mirror);
     mirror();
-    return true;
-}
-
-bool Application::setUpView()
-{
-    m_view = std::make_unique<QQuickView>();
-    const QStringList folders = moduleFolders();
-    for (const QString &folder : folders)
-        m_view->engine()->addImportPath(folder);
-    m_view->engine()->addImportPath(u"qrc:/"_s);
-    m_view->engine()->addImageProvider(PictureProvider::name(), new PictureProvider);
-    m_view->setTitle(QCoreApplication::applicationName());
-    m_view->setResizeMode(QQuickView::SizeViewToRootObject);
-    m_view->setInitialProperties({ { u"controller"_s, QVariant::fromValue(m_shell.get()) } });
-    m_view->setSource(QUrl(u"qrc:/Gallery/Shell.qml"_s));
-    if (m_view->status() != QQuickView::Ready) {
-        const QList<QQmlError> errors = m_view->errors();
-        m_error = errors.isEmpty() ? u"the screens cannot be loaded"_s : errors.constFirst().toString();
-        return false;
-    }
     connect(m_shell.get(), &ShellController::leaveRequested, this, [this] {
         if (!wantsPictures(m_options))
             Q_EMIT finished(ExitCode::Success);
     });
+    connect(m_shell->guide(), &GuideController::guideShown, this, &Application::finishLoading,
+            Qt::QueuedConnection);
+    // Also when there is nothing new to be shown.
+    connect(m_shell->guide(), &GuideController::loadingChanged, this, &Application::finishLoading,
+            Qt::QueuedConnection);
+    connect(m_catalogueLoader.get(), &CatalogueLoader::loadingChanged, this, &Application::finishLoading,
+            Qt::QueuedConnection);
+}
+
+bool Application::useLanguage(const QString &code)
+{
+    if (!installLanguage(code)) {
+        m_error = u"the texts of the language \"%1\" cannot be loaded"_s.arg(code);
+        return false;
+    }
+    m_language = code;
     return true;
+}
+
+bool Application::buildScreens()
+{
+    // Before the theme is read: what changes after that is told.
+    if (m_options.watchTheme)
+        m_themeWatcher.setFile(m_configuration.value(u"UI"_s, u"theme"_s, {}).toString());
+    if (m_view->build({ { u"controller"_s, QVariant::fromValue(m_shell.get()) } }))
+        return true;
+    m_error = m_view->error();
+    return false;
+}
+
+void Application::rebuild()
+{
+    if (m_rebuildAsked)
+        return;
+    m_rebuildAsked = true;
+    QMetaObject::invokeMethod(
+            this, [this] { rebuildNow(); }, Qt::QueuedConnection);
+}
+
+bool Application::rebuildNow()
+{
+    m_rebuildAsked = false;
+    m_view->clear();
+    const QString language = languageOf(m_configuration);
+    const bool translated = language != m_language;
+    if (translated && useLanguage(language))
+        readFiles(Content::Translated);
+    m_shell->settings()->refresh();
+    if (language != m_language || !buildScreens()) {
+        fail(ExitCode::Failure, m_error);
+        return false;
+    }
+    Q_EMIT rebuilt();
+    return true;
+}
+
+void Application::readFiles(Content content)
+{
+    m_reading = true;
+    loadCatalogue(content);
+    loadGuide();
 }
 
 void Application::loadGuide()
 {
     GuideController *guide = m_shell->guide();
-    connect(guide, &GuideController::guideShown, this, &Application::finishLoading,
-            Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
     if (m_options.guideFile.isEmpty() && m_options.playlistFile.isEmpty()) {
         guide->showOwnGuide(m_language);
         return;
@@ -188,67 +222,112 @@ void Application::loadGuide()
     QTimer::singleShot(200, m_view.get(), &QWindow::show);
 }
 
-void Application::loadCatalogue()
+void Application::loadCatalogue(Content content)
 {
     if (m_options.catalogueFile.isEmpty()) {
-        m_shell->setCatalogue(ownCatalogue(m_language, m_shell->clock()->now().date()));
-        --m_loading;
+        m_shell->setCatalogue(ownCatalogue(m_language, m_shell->clock()->now().date()), content);
         return;
     }
-    connect(m_catalogueLoader.get(), &CatalogueLoader::finished, this, [this] {
-        m_shell->setCatalogue(m_catalogueLoader->catalogue());
-        finishLoading();
-    });
+    const auto take = [this, content] {
+        // What cannot be read any more stays as it is.
+        const bool readable = m_catalogueLoader->report().outcome != CatalogueReport::Outcome::Unreadable;
+        if (readable || content == Content::Other)
+            m_shell->setCatalogue(m_catalogueLoader->catalogue(), content);
+    };
+    disconnect(m_catalogueLoader.get(), &CatalogueLoader::finished, this, nullptr);
+    connect(m_catalogueLoader.get(), &CatalogueLoader::finished, this, take);
     m_catalogueLoader->load(m_options.catalogueFile, m_language);
 }
 
 void Application::finishLoading()
 {
-    if (--m_loading > 0 || !tellProblems())
+    if (!m_reading || m_shell->guide()->isLoading() || m_catalogueLoader->isLoading())
+        return;
+    m_reading = false;
+    if (!tellProblems())
         return;
     m_view->show();
-    showScreen(m_screens.constFirst());
+    if (!m_pictures.isEmpty())
+        showPicture();
+    else if (!m_begun)
+        pressKeys();
+    m_begun = true;
 }
 
+// False when that ends the run. A file that was read once may have gone when the language changes.
 bool Application::tellProblems()
 {
     const PlaylistReport playlist = m_shell->guide()->playlistReport();
-    if (playlist.outcome == PlaylistReport::Outcome::Unreadable) {
-        fail(ExitCode::Usage, playlist.error);
-        return false;
-    }
     const GuideReport guide = m_shell->guide()->report();
-    if (!m_options.guideFile.isEmpty() && guide.outcome == GuideReport::Outcome::Unreadable) {
-        fail(ExitCode::Usage, guide.error);
-        return false;
-    }
     const CatalogueReport catalogue = m_catalogueLoader->report();
-    if (catalogue.outcome == CatalogueReport::Outcome::Unreadable) {
-        fail(ExitCode::Usage, catalogue.error);
+    QStringList unreadable;
+    if (playlist.outcome == PlaylistReport::Outcome::Unreadable)
+        unreadable.append(playlist.error);
+    else if (!m_options.guideFile.isEmpty() && guide.outcome == GuideReport::Outcome::Unreadable)
+        unreadable.append(guide.error);
+    if (catalogue.outcome == CatalogueReport::Outcome::Unreadable)
+        unreadable.append(catalogue.error);
+    if (!unreadable.isEmpty() && (!m_begun || wantsPictures(m_options))) {
+        fail(ExitCode::Usage, unreadable.constFirst());
         return false;
     }
-    const QStringList messages = playlist.messages(m_options.playlistFile)
-                                 + guide.messages(m_options.guideFile)
-                                 + catalogue.messages(m_options.catalogueFile);
-    for (const QString &message : messages)
+    if (!m_begun) {
+        unreadable = playlist.messages(m_options.playlistFile) + guide.messages(m_options.guideFile)
+                     + catalogue.messages(m_options.catalogueFile);
+    }
+    for (const QString &message : std::as_const(unreadable))
         printError(message);
     return true;
 }
 
-void Application::showScreen(const QString &name)
+void Application::pressKeys()
 {
+    const QString screen = m_pictures.isEmpty() ? m_startScreen : m_pictures.constFirst().screen;
     // Whoever has gone on to another screen while files were read stays there; a picture starts anew.
-    if (wantsPictures(m_options) || m_shell->screen() != name)
-        m_shell->start(name);
-    m_keyRun = std::make_unique<KeyRun>(m_options.keys, m_view.get());
-    connect(m_keyRun.get(), &KeyRun::finished, this, &Application::finishScreen, Qt::QueuedConnection);
+    if (!m_pictures.isEmpty() || m_shell->screen() != screen)
+        m_shell->start(screen);
+    const auto isBusy = [this] { return m_rebuildAsked || m_reading || m_view->pendingPictures() > 0; };
+    m_keyRun = std::make_unique<KeyRun>(m_options.keys, m_view.get(), isBusy);
+    connect(m_keyRun.get(), &KeyRun::finished, this, &Application::finishKeys, Qt::QueuedConnection);
     m_keyRun->start();
 }
 
-void Application::fail(ExitCode code, const QString &message)
+void Application::finishKeys()
 {
-    printError(message);
-    Q_EMIT finished(code);
+    if (!hasWantedRenderer()) {
+        fail(ExitCode::Failure, u"the renderer \"%1\" is not available here"_s.arg(m_options.backend));
+        return;
+    }
+    if (m_pictures.isEmpty() || !writePicture())
+        return;
+    m_pictures.removeFirst();
+    if (m_pictures.isEmpty())
+        Q_EMIT finished(ExitCode::Success);
+    else
+        showPicture();
+}
+
+void Application::showPicture()
+{
+    if (choose(m_configuration, m_pictures.constFirst()) && !rebuildNow())
+        return;
+    // When it is another language the files come first.
+    if (!m_reading)
+        pressKeys();
+}
+
+bool Application::writePicture()
+{
+    const QString path = m_pictures.constFirst().path;
+    // The folder that was named is there since the arguments were read.
+    const bool written = QFileInfo::exists(m_options.screenshotsFolder)
+                         && QDir().mkpath(QFileInfo(path).path())
+                         && m_view->grabWindow().save(path, "PNG", pictureQuality);
+    if (written)
+        QTextStream(stdout) << path << Qt::endl;
+    else
+        fail(ExitCode::Failure, u"cannot write \"%1\""_s.arg(path));
+    return written;
 }
 
 bool Application::hasWantedRenderer() const
@@ -257,62 +336,10 @@ bool Application::hasWantedRenderer() const
     return m_options.backend.isEmpty() || software == (m_options.backend == "software"_L1);
 }
 
-void Application::finishScreen()
+void Application::fail(ExitCode code, const QString &message)
 {
-    if (!hasWantedRenderer()) {
-        fail(ExitCode::Failure, u"the renderer \"%1\" is not available here"_s.arg(m_options.backend));
-        return;
-    }
-    if (!wantsPictures(m_options) || !writePicture())
-        return;
-    m_screens.removeFirst();
-    if (m_screens.isEmpty())
-        Q_EMIT finished(ExitCode::Success);
-    else
-        showScreen(m_screens.constFirst());
-}
-
-bool Application::writePicture()
-{
-    const QString path = QDir(m_options.screenshotsFolder).filePath(m_screens.constFirst() + u".png"_s);
-    if (!m_view->grabWindow().save(path)) {
-        fail(ExitCode::Failure, u"cannot write \"%1\""_s.arg(path));
-        return false;
-    }
-    QTextStream(stdout) << path << Qt::endl;
-    return true;
-}
-
-int runGallery(int &argc, char **argv)
-{
-    QStringList arguments;
-    for (int i = 0; i < argc; ++i)
-        arguments.append(QString::fromLocal8Bit(argv[i]));
-    const CommandLine commandLine = parseCommandLine(arguments);
-    if (commandLine.exitCode) {
-        if (*commandLine.exitCode == ExitCode::Success)
-            QTextStream(stdout) << commandLine.message << Qt::endl;
-        else
-            printError(commandLine.message);
-        return int(*commandLine.exitCode);
-    }
-
-    prepareEnvironment(commandLine.options);
-    const QtMessageHandler handler = qInstallMessageHandler(endWithoutDisplay);
-    QGuiApplication app(argc, argv);
-    qInstallMessageHandler(handler);
-    QCoreApplication::setApplicationName(u"stbui-gallery"_s);
-    QCoreApplication::setApplicationVersion(QStringLiteral(STBUI_VERSION));
-
-    Application gallery(commandLine.options);
-    QObject::connect(
-            &gallery, &Application::finished, &app, [](ExitCode code) { QCoreApplication::exit(int(code)); },
-            Qt::QueuedConnection);
-    if (!gallery.start()) {
-        printError(gallery.error());
-        return int(ExitCode::Failure);
-    }
-    return QCoreApplication::exec();
+    printError(message);
+    Q_EMIT finished(code);
 }
 
 } // namespace gallery

@@ -9,21 +9,24 @@ namespace gallery {
 
 namespace {
 
-// A picture that does not change for the first time is taken for finished, one that still does after the second.
-constexpr int restTime = 300;
-constexpr int longestWait = 5000;
+// A picture that does not change for the first time is taken for finished, one that always moves after the second, and
+// one whose pictures do not come after the third.
+constexpr int restTime = 100;
+constexpr int movingTime = 1500;
+constexpr int longestWait = 6000;
 
 } // namespace
 
-KeyRun::KeyRun(const QList<Qt::Key> &keys, QQuickWindow *window)
+KeyRun::KeyRun(const QList<Qt::Key> &keys, QQuickWindow *window, const std::function<bool()> &isBusy)
     : QObject(window)
     , m_keys(keys)
     , m_window(window)
+    , m_isBusy(isBusy)
 {
     m_rest.setSingleShot(true);
     m_limit.setSingleShot(true);
-    connect(&m_rest, &QTimer::timeout, this, &KeyRun::finish);
-    connect(&m_limit, &QTimer::timeout, this, &KeyRun::finish);
+    connect(&m_rest, &QTimer::timeout, this, &KeyRun::finishUnlessBusy);
+    connect(&m_limit, &QTimer::timeout, this, &KeyRun::finishUnlessBusy);
 }
 
 void KeyRun::start()
@@ -54,9 +57,7 @@ void KeyRun::next()
     if (m_finished)
         return;
     if (m_keys.isEmpty()) {
-        m_rest.start(restTime);
-        if (!m_limit.isActive())
-            m_limit.start(longestWait);
+        rest();
         return;
     }
     const Qt::Key key = m_keys.takeFirst();
@@ -65,6 +66,24 @@ void KeyRun::next()
     QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier);
     QCoreApplication::sendEvent(m_window, &release);
     m_window->update();
+}
+
+void KeyRun::rest()
+{
+    m_rest.start(restTime);
+    if (m_limit.isActive())
+        return;
+    m_limit.start(movingTime);
+    if (!m_waiting.isValid())
+        m_waiting.start();
+}
+
+void KeyRun::finishUnlessBusy()
+{
+    if (m_isBusy && m_isBusy() && !m_waiting.hasExpired(longestWait))
+        rest();
+    else
+        finish();
 }
 
 void KeyRun::finish()

@@ -3,7 +3,11 @@
 
 #include "app/languages.h"
 #include "app/remotekeys.h"
+#include "app/themewatcher.h"
 #include "screens/shellcontroller.h"
+#include "screens/themes.h"
+
+#include <stbconfig/configurationmanager.h>
 
 #include <QtCore/qcommandlineparser.h>
 #include <QtCore/qdir.h>
@@ -36,9 +40,14 @@ constexpr OptionText screenOption { "screen"_L1,
 constexpr OptionText keysOption { "keys"_L1, "Press these remote keys at start: \"Down Down Return\"."_L1,
                                   "keys"_L1 };
 constexpr OptionText screenshotsOption { "screenshots"_L1,
-                                         "Write a PNG of the screen, or of each one, and end."_L1,
+                                         "Write PNGs of all screens in all themes, resolutions and "
+                                         "languages, or of those given, and end."_L1,
                                          "folder"_L1 };
-constexpr OptionText themeOption { "theme"_L1, "Theme file to use."_L1, "file"_L1 };
+constexpr OptionText themeOption { "theme"_L1,
+                                   "Theme to use: default, light, contrast, copper or a theme file."_L1,
+                                   "name or file"_L1 };
+constexpr OptionText watchThemeOption { "watch-theme"_L1,
+                                        "Show what becomes of the theme file when it is edited."_L1, ""_L1 };
 constexpr OptionText resolutionOption { "resolution"_L1, "Design size: hd, fullhd or sd."_L1, "name"_L1 };
 constexpr OptionText backendOption { "backend"_L1, "Qt Quick's renderer: software or rhi."_L1, "name"_L1 };
 constexpr OptionText languageOption { "language"_L1, "Language of the screens: en, ru, de or ar."_L1,
@@ -83,6 +92,8 @@ QString helpText(const QCommandLineParser &parser)
 /*! Why \a path cannot be read as a file, or nothing when it can. */
 QString unreadable(const QString &path)
 {
+    if (path.isEmpty())
+        return u"no name"_s;
     if (QFileInfo(path).isDir())
         return u"is a folder"_s;
     QFile file(path);
@@ -125,6 +136,26 @@ public:
         return given;
     }
 
+    QString theme(const OptionText &option)
+    {
+        const QString given = value(m_parser, option);
+        if (isSet(m_parser, option) && !themeNames().contains(given) && !unreadable(given).isEmpty())
+            fail(u"unknown theme \"%1\"; expected %2 or a readable file"_s.arg(given,
+                                                                               themeNames().join(", "_L1)));
+        return given;
+    }
+
+    bool watchedTheme(const OptionText &option, const QString &theme)
+    {
+        if (!isSet(m_parser, option))
+            return false;
+        if (isSet(m_parser, screenshotsOption))
+            fail(u"--%1 is for a window and does not go with --screenshots"_s.arg(name(option)));
+        if (!ThemeWatcher::canWatch(themeInUse(theme)))
+            fail(u"--%1 needs a theme file to watch; name one with --theme"_s.arg(name(option)));
+        return true;
+    }
+
     QString writableFolder(const OptionText &option)
     {
         const QString given = value(m_parser, option);
@@ -155,6 +186,14 @@ public:
     }
 
 private:
+    static QString themeInUse(const QString &given)
+    {
+        if (!given.isEmpty())
+            return configuredTheme(given);
+        const stbconfig::ConfigurationManager *manager = stbconfig::qmlConfigManager();
+        return manager == nullptr ? QString() : manager->value(u"UI"_s, u"theme"_s, QString()).toString();
+    }
+
     static QString name(const OptionText &option) { return names(option).constFirst(); }
 
     void fail(const QString &message)
@@ -185,13 +224,14 @@ CommandLine checked(const QCommandLineParser &parser)
     options.now = check.dateTime(nowOption);
     options.screen = check.choice(screenOption, screenNames());
     options.keys = check.keys(keysOption);
-    options.resolution = check.choice(resolutionOption, { u"hd"_s, u"fullhd"_s, u"sd"_s });
+    options.resolution = check.choice(resolutionOption, resolutionNames());
     options.backend = check.choice(backendOption, { u"software"_s, u"rhi"_s });
     options.language = check.choice(languageOption, languageCodes());
     options.guideFile = check.readableFile(guideOption);
     options.playlistFile = check.readableFile(playlistOption);
     options.catalogueFile = check.readableFile(catalogueOption);
-    options.themeFile = check.readableFile(themeOption);
+    options.theme = check.theme(themeOption);
+    options.watchTheme = check.watchedTheme(watchThemeOption, options.theme);
     options.screenshotsFolder = check.writableFolder(screenshotsOption);
     return check.error().isEmpty() ? result : finished(ExitCode::Usage, check.error());
 }
@@ -203,15 +243,26 @@ QStringList screenNames()
     return ShellController::screenNames();
 }
 
+QStringList resolutionNames()
+{
+    return { u"hd"_s, u"fullhd"_s, u"sd"_s };
+}
+
+QString configuredTheme(const QString &theme)
+{
+    return themeNames().contains(theme) ? themePath(theme) : QFileInfo(theme).absoluteFilePath();
+}
+
 CommandLine parseCommandLine(const QStringList &arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
             u"Shows the controls of Stbui.UI.Qml.Controls.Basic as a TV application."_s);
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    for (const OptionText &option : { guideOption, playlistOption, catalogueOption, nowOption, screenOption,
-                                      keysOption, screenshotsOption, themeOption, resolutionOption,
-                                      backendOption, languageOption, helpOption, versionOption })
+    for (const OptionText &option :
+         { guideOption, playlistOption, catalogueOption, nowOption, screenOption, keysOption,
+           screenshotsOption, themeOption, watchThemeOption, resolutionOption, backendOption, languageOption,
+           helpOption, versionOption })
         addOption(parser, option);
     if (!parser.parse(arguments))
         return finished(ExitCode::Usage, parser.errorText());

@@ -19,11 +19,14 @@ struct Options
     QString catalogueFile;
     /*! The time that the screens take for the present; the clock stands still then. Invalid: the real time. */
     QDateTime now;
-    /*! Empty: the first one, and pictures of all. */
+    /*! Empty: the first one, and pictures of all; so for theme, resolution and language too. */
     QString screen;
     QList<Qt::Key> keys;
     QString screenshotsFolder;
-    QString themeFile;
+    /*! A name of themeNames(), or else a file. */
+    QString theme;
+    /*! The theme is a file, and is read again whenever that changes. */
+    bool watchTheme = false;
     QString resolution;
     QString backend;
     QString language;
@@ -49,6 +52,10 @@ struct CommandLine
 
 /*! The names that "--screen" takes, in the order in which pictures are written. */
 QStringList screenNames();
+/*! The names that "--resolution" takes. */
+QStringList resolutionNames();
+/*! What the configuration ("UI"/"theme") takes for \a theme, a name of themeNames() or a file. */
+QString configuredTheme(const QString &theme);
 
 /*!
     Reads the program's arguments; the first one is the program's name. Files that are named must be readable

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/runconfiguration.h"
 
+#include <stbconfig/iniconfigurationmanager.h>
+
 namespace gallery {
 
 RunConfiguration::RunConfiguration()
@@ -14,7 +16,7 @@ RunConfiguration::~RunConfiguration()
     stbconfig::setQmlConfigManager(m_store);
 }
 
-void RunConfiguration::setValue(const QString &group, const QString &key, const QVariant &value)
+void RunConfiguration::setForRun(const QString &group, const QString &key, const QVariant &value)
 {
     m_values.insert({ group, key }, value);
 }
@@ -25,6 +27,18 @@ QVariant RunConfiguration::value(const QString &group, const QString &key, const
     if (found != m_values.cend())
         return *found;
     return m_store == nullptr ? defaultValue : m_store->value(group, key, defaultValue);
+}
+
+bool RunConfiguration::setValue(const QString &group, const QString &key, const QVariant &value)
+{
+    auto *file = dynamic_cast<stbconfig::IniConfigurationManager *>(m_store);
+    if (m_readOnly || file == nullptr) {
+        setForRun(group, key, value);
+        return false;
+    }
+    m_values.remove({ group, key });
+    // A value that cannot be written stays in the store's memory.
+    return file->setValue(group, key, value);
 }
 
 } // namespace gallery

@@ -151,6 +151,7 @@ PictureResponse::PictureResponse(PictureProvider *provider, quint64 id, const Re
     : m_provider(provider)
     , m_id(id)
 {
+    ++m_provider->m_pending;
     m_job->response = this;
     if (isDownloaded(request.picture)) {
         download(request);
@@ -165,6 +166,8 @@ PictureResponse::PictureResponse(PictureProvider *provider, quint64 id, const Re
 PictureResponse::~PictureResponse()
 {
     detach();
+    if (!m_delivered)
+        --m_provider->m_pending;
 }
 
 void PictureResponse::download(const Request &request)
@@ -204,6 +207,7 @@ void PictureResponse::deliver()
     if (m_delivered)
         return;
     m_delivered = true;
+    --m_provider->m_pending;
     Q_EMIT finished();
 }
 

@@ -35,6 +35,9 @@ public:
     explicit PictureProvider(const DownloadLimits &limits = {});
     ~PictureProvider() override;
 
+    /*! How many pictures are asked for and not delivered yet. May be called in any thread. */
+    int pendingPictures() const { return m_pending; }
+
     QQuickImageResponse *requestImageResponse(const QString &id, const QSize &requestedSize) override;
 
 private:
@@ -48,6 +51,7 @@ private:
     QThread m_network; // started with the first download
     PictureFetcher *m_fetcher = nullptr; // works in m_network
     std::atomic<quint64> m_lastId = 0;
+    std::atomic<int> m_pending = 0;
 };
 
 /*! Makes addresses for PictureProvider; in QML the singleton `Pictures`. */

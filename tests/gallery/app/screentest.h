@@ -12,7 +12,6 @@
 #include <QtCore/qrandom.h>
 #include <QtGui/qevent.h>
 #include <QtQuick/qquickitem.h>
-#include <QtQuick/qquickview.h>
 
 /*! The base of tests that look at a screen of the gallery in its window and press keys; cleanup() calls end(). */
 class ScreenTest : public stbtest::TestCase
@@ -33,7 +32,7 @@ protected:
     }
 
     gallery::ShellController *shell() const { return m_application->shell(); }
-    QQuickView *view() const { return m_application->view(); }
+    gallery::ScreenWindow *view() const { return m_application->view(); }
     void press(Qt::Key key) const
     {
         // QTest::keyClick() does not know all keys of remote controls.

@@ -139,10 +139,7 @@ private Q_SLOTS:
         const int position = about()->position();
         QVERIFY(position > 0);
         const QImage before = view()->grabWindow();
-        const QUrl source = view()->source();
-        view()->setSource(QUrl());
-        view()->setInitialProperties({ { "controller", QVariant::fromValue(shell()) } });
-        view()->setSource(source);
+        QVERIFY(view()->build({ { "controller", QVariant::fromValue(shell()) } }));
         settle();
         QCOMPARE(about()->position(), position);
         QCOMPARE(view()->grabWindow(), before);

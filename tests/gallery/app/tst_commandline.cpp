@@ -4,6 +4,8 @@
 
 #include "app/options.h"
 #include "app/remotekeys.h"
+#include "app/runconfiguration.h"
+#include "screens/themes.h"
 
 #include <QtCore/qdir.h>
 #include <QtCore/qtemporarydir.h>
@@ -69,10 +71,53 @@ private Q_SLOTS:
         QCOMPARE(line.options.keys, (QList { Qt::Key_Down, Qt::Key_Right }));
         QCOMPARE(line.options.screenshotsFolder, m_folder.filePath("shots"));
         QVERIFY(QDir(m_folder.filePath("shots")).exists());
-        QCOMPARE(line.options.themeFile, theme);
+        QCOMPARE(line.options.theme, theme);
+        QVERIFY(!line.options.watchTheme);
         QCOMPARE(line.options.resolution, "sd");
         QCOMPARE(line.options.backend, "software");
         QCOMPARE(line.options.language, "ru");
+    }
+
+    void aThemeIsANameOrAFile()
+    {
+        QCOMPARE(gallery::themeNames(), (QStringList { "default", "light", "contrast", "copper" }));
+        for (const QString &name : gallery::themeNames()) {
+            const CommandLine line = parse({ "--theme", name });
+            QVERIFY2(!line.exitCode, qPrintable(line.message));
+            QCOMPARE(line.options.theme, name);
+            QCOMPARE(gallery::configuredTheme(name), gallery::themePath(name));
+        }
+        const QString theme = file(QStringLiteral("own.json"));
+        QCOMPARE(parse({ "--theme", theme }).options.theme, theme);
+        QCOMPARE(gallery::configuredTheme(theme), theme);
+        QCOMPARE(gallery::configuredTheme("own.json"), QDir::current().absoluteFilePath("own.json"));
+    }
+
+    void anUnknownThemeIsToldWithTheNamesThatThereAre()
+    {
+        const CommandLine line = parse({ "--theme", "sepia" });
+        QCOMPARE(int(line.exitCode.value()), int(ExitCode::Usage));
+        QCOMPARE(line.message,
+                 "unknown theme \"sepia\"; expected default, light, contrast, copper or a readable file");
+    }
+
+    void aThemeFileCanBeWatched()
+    {
+        const QString theme = file(QStringLiteral("watched.json"));
+        const CommandLine line = parse({ "--theme", theme, "--watch-theme" });
+        QVERIFY2(!line.exitCode, qPrintable(line.message));
+        QVERIFY(line.options.watchTheme);
+    }
+
+    void theThemeFileOfTheConfigurationCanBeWatched()
+    {
+        const QString theme = file(QStringLiteral("configured.json"));
+        gallery::RunConfiguration configuration;
+        configuration.setForRun("UI", "theme", theme);
+        QVERIFY(parse({ "--watch-theme" }).options.watchTheme);
+        QCOMPARE(int(parse({ "--watch-theme", "--theme", "default" }).exitCode.value()), int(ExitCode::Usage));
+        configuration.setForRun("UI", "theme", gallery::themePath("copper"));
+        QCOMPARE(int(parse({ "--watch-theme" }).exitCode.value()), int(ExitCode::Usage));
     }
 
     void anOffsetInTheTimeCounts()
@@ -110,6 +155,14 @@ private Q_SLOTS:
         QTest::newRow("folder as guide") << QStringList { "--guide", folder } << folder;
         QTest::newRow("missing theme")
                 << QStringList { "--theme", "/does/not/exist.json" } << "/does/not/exist.json";
+        QTest::newRow("folder as theme") << QStringList { "--theme", folder } << folder;
+        QTest::newRow("theme without a name") << QStringList { "--theme", "" } << "contrast";
+        QTest::newRow("no theme file to watch") << QStringList { "--watch-theme" } << "--theme";
+        QTest::newRow("compiled-in theme to watch")
+                << QStringList { "--watch-theme", "--theme", "light" } << "file to watch";
+        QTest::newRow("pictures of a watched theme")
+                << QStringList { "--watch-theme", "--theme", plain, "--screenshots", folder }
+                << "--screenshots";
         QTest::newRow("pictures into a file") << QStringList { "--screenshots", plain } << plain;
         QTest::newRow("pictures below a file") << QStringList { "--screenshots", plain + "/in" } << plain;
         QTest::newRow("pictures nowhere") << QStringList { "--screenshots", "" } << "pictures";
@@ -164,7 +217,7 @@ private Q_SLOTS:
         QCOMPARE(run.errors, QString());
         for (const char *option :
              { "--guide", "--playlist", "--catalogue", "--now", "--screen", "--keys", "--screenshots",
-               "--theme", "--resolution", "--backend", "--language", "--help", "--version" })
+               "--theme", "--watch-theme", "--resolution", "--backend", "--language", "--help", "--version" })
             QVERIFY2(run.output.contains(QLatin1String(option)), option);
     }
 
@@ -214,10 +267,15 @@ private Q_SLOTS:
                                   "#EXTINF:-1 tvg-id=\"sport\",Sport\n"
                                   "udp://2\n");
         const QString folder = m_folder.filePath("odd");
-        const GalleryRun run = runGallery({ "--playlist", path, "--screen", "guide", "--now",
-                                            "2026-03-04T20:05:00Z", "--screenshots", folder });
+        // Read again for each language, and told all the same only once.
+        const GalleryRun run = runGallery({ "--playlist", path, "--screen", "guide", "--theme", "default",
+                                            "--resolution", "hd", "--now", "2026-03-04T20:05:00Z",
+                                            "--screenshots", folder });
         QCOMPARE(run.exitCode, 0);
-        QCOMPARE(run.output, folder + "/guide.png\n");
+        QString output;
+        for (const char *language : { "en", "ru", "de", "ar" })
+            output += folder + "/" + language + "/guide.png\n";
+        QCOMPARE(run.output, output);
         const QStringList lines = run.errors.split(u'\n', Qt::SkipEmptyParts);
         QCOMPARE(lines.size(), 2);
         QVERIFY2(lines[0].startsWith("stbui-gallery: " + path + ": line 2: "), qPrintable(lines[0]));

@@ -349,10 +349,7 @@ private:
     /*! Throws the screens away and makes them anew from the same controllers. */
     void makeAnew()
     {
-        const QUrl source = view()->source();
-        view()->setSource({});
-        view()->setInitialProperties({ { "controller", QVariant::fromValue(shell()) } });
-        view()->setSource(source);
+        QVERIFY(view()->build({ { "controller", QVariant::fromValue(shell()) } }));
         QVERIFY(control() != nullptr);
         QCOMPARE(focusProblem(), QString());
     }

@@ -63,9 +63,9 @@ private Q_SLOTS:
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("<tv>\n<channel id=\"a\"/>\n" + withoutStart(2) + "</tv>");
         file.close();
-        const GalleryRun run = runGallery({ "--guide", path, "--screen", "guide", "--now",
-                                            "2026-03-04T20:05:00Z", "--screenshots",
-                                            folder.filePath("shots") });
+        const GalleryRun run = runGallery(
+                { "--guide", path, "--screen", "guide", "--now", "2026-03-04T20:05:00Z", "--theme", "default",
+                  "--resolution", "hd", "--language", "en", "--screenshots", folder.filePath("shots") });
         QCOMPARE(run.exitCode, 0);
         QCOMPARE(run.errors.count('\n'), 2);
         QVERIFY2(run.errors.contains("odd.xml: line 3, column "), qPrintable(run.errors));

@@ -2,6 +2,9 @@
 #include "galleryprocess.h"
 #include "testkit/testcase.h"
 
+#include "app/options.h"
+
+#include <QtCore/qcryptographichash.h>
 #include <QtCore/qdir.h>
 #include <QtCore/qset.h>
 #include <QtCore/qtemporarydir.h>
@@ -14,14 +17,39 @@ class tst_Screenshots : public stbtest::TestCase
     QImage picture(const QString &folder, const QStringList &arguments, const QString &screen = "guide")
     {
         const QString path = m_folder.filePath(folder + "/" + screen + ".png");
-        const GalleryRun run = runGallery(QStringList { "--now", "2026-03-04T20:05:00Z", "--screen", screen,
-                                                        "--screenshots", m_folder.filePath(folder) }
-                                          + arguments);
+        QStringList all = QStringList { "--now", "2026-03-04T20:05:00Z", "--screen",
+                                        screen,  "--screenshots",        m_folder.filePath(folder) }
+                          + arguments;
+        for (const auto &[option, usual] :
+             { std::pair { "--theme", "default" }, { "--resolution", "hd" }, { "--language", "en" } }) {
+            if (!all.contains(QLatin1StringView(option)))
+                all += { option, usual };
+        }
+        const GalleryRun run = runGallery(all);
         if (run.exitCode != 0 || !run.errors.isEmpty() || run.output != path + "\n") {
             QTest::qFail(qPrintable(run.output + run.errors), __FILE__, __LINE__);
             return {};
         }
         return QImage(path);
+    }
+
+    static QSize sizeOf(const QString &resolution)
+    {
+        if (resolution == "sd")
+            return { 720, 576 };
+        return resolution == "hd" ? QSize(1280, 720) : QSize(1920, 1080);
+    }
+
+    /*! A guide of one channel with titles in two languages. */
+    QString guideFile() const
+    {
+        QFile file(m_folder.filePath("guide.xml"));
+        if (!file.open(QIODevice::WriteOnly))
+            return {};
+        file.write("<tv><channel id=\"a\"><display-name>A</display-name></channel>"
+                   "<programme channel=\"a\" start=\"20260304190000 +0000\" stop=\"20260304220000 +0000\">"
+                   "<title lang=\"en\">Rivers</title><title lang=\"de\">Die Flüsse</title></programme></tv>");
+        return file.fileName();
     }
 
     static qsizetype colours(const QImage &image)
@@ -35,7 +63,6 @@ class tst_Screenshots : public stbtest::TestCase
     }
 
     QTemporaryDir m_folder;
-    QList<QImage> m_seen;
 
 private Q_SLOTS:
     void thePictureHasTheSizeOfTheResolution_data()
@@ -101,13 +128,14 @@ private Q_SLOTS:
     void withoutAScreenEachOneHasItsPicture()
     {
         const QString folder = m_folder.filePath("all");
-        const GalleryRun run = runGallery({ "--now", "2026-03-04T20:05:00Z", "--screenshots", folder });
+        const GalleryRun run = runGallery({ "--now", "2026-03-04T20:05:00Z", "--theme", "default",
+                                            "--resolution", "hd", "--language", "en", "--screenshots",
+                                            folder });
         QCOMPARE(run.errors, QString());
         QCOMPARE(run.exitCode, 0);
         QList<QImage> pictures;
         QString output;
-        for (const QString screen : { "home", "detail", "series", "guide", "channels", "player", "search",
-                                      "settings", "components", "about" }) {
+        for (const QString &screen : gallery::screenNames()) {
             const QString path = folder + "/" + screen + ".png";
             output += path + "\n";
             const QImage image(path);
@@ -119,31 +147,70 @@ private Q_SLOTS:
         QCOMPARE(run.output, output);
     }
 
-    void everyScreenHasItsPictureInEverySizeAndLanguage_data()
-    {
-        QTest::addColumn<QString>("resolution");
-        QTest::addColumn<QString>("language");
-        for (const QString resolution : { "hd", "fullhd", "sd" }) {
-            for (const QString language : { "en", "ru", "de", "ar" })
-                QTest::addRow("%s %s", qPrintable(resolution), qPrintable(language))
-                        << resolution << language;
-        }
-    }
     void everyScreenHasItsPictureInEverySizeAndLanguage()
     {
-        QFETCH(QString, resolution);
-        QFETCH(QString, language);
-        const QString folder = m_folder.filePath(resolution + language);
-        const GalleryRun run = runGallery({ "--now", "2026-03-04T20:05:00Z", "--resolution", resolution,
-                                            "--language", language, "--screenshots", folder });
+        const QString folder = m_folder.filePath("varied");
+        const GalleryRun run = runGallery(
+                { "--now", "2026-03-04T20:05:00Z", "--theme", "default", "--screenshots", folder });
         QCOMPARE(run.errors, QString());
         QCOMPARE(run.exitCode, 0);
-        for (const QString screen : { "home", "detail", "series", "guide", "channels", "player", "search",
-                                      "settings", "components", "about" }) {
-            const QImage image(folder + "/" + screen + ".png");
-            QVERIFY(colours(image) > 50);
-            QVERIFY(!m_seen.contains(image));
-            m_seen.append(image);
+        QSet<QByteArray> seen;
+        for (const QString resolution : { "hd", "fullhd", "sd" }) {
+            for (const QString language : { "en", "ru", "de", "ar" }) {
+                for (const QString &screen : gallery::screenNames()) {
+                    const QString path = folder + "/" + resolution + "/" + language + "/" + screen + ".png";
+                    QVERIFY2(run.output.contains(path + "\n"), qPrintable(path));
+                    const QImage image(path);
+                    QCOMPARE(image.size(), sizeOf(resolution));
+                    QVERIFY(colours(image) > 50);
+                    seen.insert(
+                            QCryptographicHash::hash(QByteArray::fromRawData(reinterpret_cast<const char *>(
+                                                                                     image.constBits()),
+                                                                             image.sizeInBytes()),
+                                                     QCryptographicHash::Sha1));
+                }
+            }
+        }
+        QCOMPARE(seen.size(), 12 * gallery::screenNames().size());
+        QCOMPARE(run.output.count(u'\n'), seen.size());
+    }
+
+    void aPictureOfManyIsThatOfARunOfItsOwn()
+    {
+        const QString folder = m_folder.filePath("many");
+        const GalleryRun run = runGallery({ "--now", "2026-03-04T20:05:00Z", "--screen", "guide", "--keys",
+                                            "Down Info", "--screenshots", folder });
+        QCOMPARE(run.errors, QString());
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.output.count(u'\n'), 48);
+        for (const auto &[theme, resolution, language] : { std::tuple { "default", "hd", "en" },
+                                                           { "contrast", "fullhd", "ru" },
+                                                           { "light", "hd", "de" },
+                                                           { "copper", "sd", "ar" } }) {
+            const QString one = QStringLiteral("%1/%2/%3").arg(theme, resolution, language);
+            const QImage alone = picture("alone/" + one, { "--theme", theme, "--resolution", resolution,
+                                                           "--language", language, "--keys", "Down Info" });
+            QVERIFY(!alone.isNull());
+            QVERIFY2(QImage(folder + "/" + one + "/guide.png") == alone, qPrintable(one));
+        }
+    }
+
+    void aGuideFileIsReadOnceForEachLanguage()
+    {
+        const QString guide = guideFile();
+        const QString folder = m_folder.filePath("guide-file");
+        const QStringList arguments {
+            "--now",   "2026-03-04T20:05:00Z", "--guide", guide, "--screen", "guide", "--theme",
+            "default", "--resolution",         "hd"
+        };
+        const GalleryRun run = runGallery(arguments + QStringList { "--screenshots", folder });
+        QCOMPARE(run.errors, QString());
+        QCOMPARE(run.exitCode, 0);
+        for (const QString language : { "en", "de" }) {
+            const QImage alone = picture("guide-alone-" + language,
+                                         { "--guide", guide, "--language", language });
+            QVERIFY(!alone.isNull());
+            QVERIFY2(QImage(folder + "/" + language + "/guide.png") == alone, qPrintable(language));
         }
     }
 
@@ -155,8 +222,9 @@ private Q_SLOTS:
                         "\"picture\": \"does-not-exist.jpg\" }, null ] }");
         catalogue.close();
         const QString folder = m_folder.filePath("broken");
-        const GalleryRun run = runGallery({ "--now", "2026-03-04T20:05:00Z", "--screen", "home",
-                                            "--catalogue", catalogue.fileName(), "--screenshots", folder });
+        const GalleryRun run = runGallery(
+                { "--now", "2026-03-04T20:05:00Z", "--screen", "home", "--catalogue", catalogue.fileName(),
+                  "--theme", "default", "--resolution", "hd", "--language", "en", "--screenshots", folder });
         QCOMPARE(run.exitCode, 0);
         QCOMPARE(run.output, folder + "/home.png\n");
         const QStringList lines = run.errors.split(u'\n', Qt::SkipEmptyParts);
@@ -187,21 +255,28 @@ private Q_SLOTS:
         QCOMPARE(image.pixelColor(0, 0), QColor(0x40, 0x20, 0x10));
     }
 
-    void theUsersConfigurationIsNotWritten()
+    void aNamedThemeChangesThePicture()
     {
+        const QImage light = picture("light", { "--theme", "light" });
+        QVERIFY(light.pixelColor(0, 0).lightness() > 200);
+    }
+
+    void theUsersConfigurationCountsAndIsNotWritten()
+    {
+        const QByteArray content = "[UI]\nlanguage=de\nresolution=sd\ntextScale=1.3\n";
         const QString path = m_folder.filePath("store.ini");
         QFile store(path);
         QVERIFY(store.open(QIODevice::WriteOnly));
-        store.write("[UI]\nresolution=sd\nlanguage=de\n");
+        store.write(content);
         store.close();
+        const QImage usual = picture("usual", { "--resolution", "hd", "--language", "ru" });
         qputenv("STBUI_CONFIG", path.toLocal8Bit());
-        const QImage configured = picture("configured", {});
-        const QImage overridden = picture("overridden", { "--resolution", "hd", "--language", "ru" });
+        const QImage configured = picture("configured", { "--resolution", "hd", "--language", "ru" });
         qunsetenv("STBUI_CONFIG");
-        QCOMPARE(configured.size(), QSize(720, 576));
-        QCOMPARE(overridden.size(), QSize(1280, 720));
+        QCOMPARE(configured.size(), QSize(1280, 720));
+        QVERIFY(configured != usual);
         QVERIFY(store.open(QIODevice::ReadOnly));
-        QCOMPARE(store.readAll(), "[UI]\nresolution=sd\nlanguage=de\n");
+        QCOMPARE(store.readAll(), content);
     }
 
     void aRealGuideIsShown()

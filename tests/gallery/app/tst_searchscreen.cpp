@@ -239,10 +239,7 @@ private Q_SLOTS:
         QTRY_COMPARE(focusProblem(), QString());
         const QRectF plate = sceneRect(item("focusPlate"));
         const int key = keyboard()->property("currentKey").toInt();
-        const QUrl source = view()->source();
-        view()->setInitialProperties({ { "controller", QVariant::fromValue(shell()) } });
-        view()->setSource({});
-        view()->setSource(source);
+        QVERIFY(view()->build({ { "controller", QVariant::fromValue(shell()) } }));
         QTRY_COMPARE(focusProblem(), QString());
         QCOMPARE(sceneRect(item("focusPlate")), plate);
         QCOMPARE(keyboard()->property("currentKey").toInt(), key);

@@ -189,10 +189,7 @@ private Q_SLOTS:
         press({ Qt::Key_Right, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down });
         const QString focused = focusedText();
         const QImage before = view()->grabWindow();
-        const QUrl source = view()->source();
-        view()->setSource(QUrl());
-        view()->setInitialProperties({ { "controller", QVariant::fromValue(shell()) } });
-        view()->setSource(source);
+        QVERIFY(view()->build({ { "controller", QVariant::fromValue(shell()) } }));
         settle();
         QCOMPARE(focusedText(), focused);
         QCOMPARE(focusProblem(), QString());
