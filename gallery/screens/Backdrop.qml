@@ -23,7 +23,7 @@ Item {
         gradient: Gradient {
             orientation: Gradient.Horizontal
             GradientStop {
-                position: 0
+                position: 0.1
                 color: Look.backdrop
             }
             GradientStop {

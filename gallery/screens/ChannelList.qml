@@ -24,7 +24,10 @@ ListView {
         width: ListView.view.width
         height: Math.round(68 * Look.unit)
         Accessible.role: Accessible.ListItem
-        Accessible.name: name
+        Accessible.name: number + " " + name
+        Accessible.description: nowTitle
+        Accessible.selectable: true
+        Accessible.selected: ListView.isCurrentItem
 
         Rectangle {
             anchors.fill: parent

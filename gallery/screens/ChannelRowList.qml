@@ -36,8 +36,6 @@ ListView {
         objectName: "channelRow"
         width: ListView.view.width
         height: 2 * Look.channelLogo.y + Look.channelLogo.height
-        Accessible.role: Accessible.ListItem
-        Accessible.name: number + " " + name
 
         FocusPlate {
             anchors.fill: parent
@@ -68,6 +66,13 @@ ListView {
             channelListProgramName: row.programme
             channelListProgramProgress: row.progress
             channelListChannelLive: row.playing
+            Accessible.role: Accessible.ListItem
+            Accessible.name: row.number + " " + row.name
+            Accessible.description: row.programme
+            Accessible.focusable: true
+            Accessible.focused: visible && row.ListView.isCurrentItem
+            Accessible.selectable: true
+            Accessible.selected: row.playing
         }
         // qmllint enable unqualified type
     }

@@ -75,6 +75,10 @@ FocusScope {
         anchors.right: header.right
         height: nothing.height + 2 * Look.medium
         visible: screen.channels.channelRow < 0 && !screen.guide.loading
+        Accessible.role: Accessible.StaticText
+        Accessible.name: nothing.text
+        Accessible.focusable: true
+        Accessible.focused: visible
 
         Label {
             id: nothing
@@ -159,5 +163,7 @@ FocusScope {
         anchors.fill: parent
         visible: screen.guide.loading
         progress: screen.guide.loadProgress
+        Accessible.focusable: true
+        Accessible.focused: visible && screen.channels.channelRow < 0
     }
 }

@@ -8,11 +8,20 @@ import Gallery
 PlayerButton {
     id: button
 
+    // Whether OK checks it and takes the check back.
+    property bool checkable: true
+
     forceTitleColor: focused
     titleForcedColor: Look.textOnFocus
     // Narrow screens have no room for the style's.
     leftPadding: Look.wide ? 0 : Look.medium + Look.tiny
     rightPadding: leftPadding
+    Accessible.role: Accessible.Button
+    Accessible.name: titleText
+    Accessible.focusable: true
+    Accessible.focused: visible && focused
+    Accessible.checkable: checkable
+    Accessible.checked: checked
 
     FocusPlate {
         anchors.fill: parent

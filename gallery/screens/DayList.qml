@@ -35,8 +35,6 @@ ListView {
         objectName: "day"
         width: list.width / list.columns
         height: list.height
-        Accessible.role: Accessible.ListItem
-        Accessible.name: day.toLocaleDateString(Qt.locale(), Locale.LongFormat)
 
         FocusPlate {
             anchors.fill: parent
@@ -55,13 +53,20 @@ ListView {
             y: Look.tiny
             width: Look.dayWidth
             height: parent.height - 2 * Look.tiny
-            // There is nothing on that day; on the bright plate less is seen of what is faint.
-            opacity: cell.hasProgrammes ? 1 : cell.focused ? 0.7 : 0.4
-            style: cell.focused ? Look.focusedDate : QmlDesignSystem.playerEpgDateStyle
+            // There is nothing on that day: quiet, and on the bright plate faint.
+            opacity: cell.focused && !cell.hasProgrammes ? 0.7 : 1
+            style: cell.focused ? Look.focusedDate
+                                : cell.hasProgrammes ? QmlDesignSystem.playerEpgDateStyle : Look.quietDate
             // qmllint disable type
             date: cell.day
             // qmllint enable type
             isActive: cell.chosen
+            Accessible.role: Accessible.ListItem
+            Accessible.name: cell.day.toLocaleDateString(Qt.locale(), Locale.LongFormat)
+            Accessible.focusable: true
+            Accessible.focused: visible && cell.focused
+            Accessible.selectable: true
+            Accessible.selected: cell.chosen
         }
         Rectangle {
             // The texts of a day begin on the left in every language.
@@ -70,7 +75,7 @@ ListView {
             width: Look.large
             height: Look.barHeight
             visible: cell.isToday
-            color: Look.accent
+            color: cell.focused ? Look.textOnFocus : Look.accent
         }
     }
     // qmllint enable unqualified

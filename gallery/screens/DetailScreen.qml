@@ -68,6 +68,8 @@ FocusScope {
         }
         Label {
             width: parent.width
+            // Whole pixels for what is below and above.
+            bottomPadding: Math.ceil(contentHeight) - contentHeight
             visible: text.length > 0
             topPadding: Look.small
             text: screen.detail.description
@@ -94,6 +96,10 @@ FocusScope {
             isFixedWidth: false
             focused: screen.detail.button === DetailController.PlayButton
             throbberVisible: screen.detail.opening === DetailController.PlayButton
+            Accessible.role: Accessible.Button
+            Accessible.name: titleText
+            Accessible.focusable: true
+            Accessible.focused: visible && focused
         }
         StandardButton {
             objectName: "button"
@@ -102,6 +108,12 @@ FocusScope {
             isFixedWidth: false
             focused: screen.detail.button === DetailController.FavouriteButton
             checked: screen.detail.favourite && !focused
+            Accessible.role: Accessible.Button
+            Accessible.name: titleText
+            Accessible.focusable: true
+            Accessible.focused: visible && focused
+            Accessible.checkable: true
+            Accessible.checked: screen.detail.favourite
         }
         PlayerButton {
             objectName: "button"
@@ -109,18 +121,30 @@ FocusScope {
             titleText: qsTr("Trailer")
             focused: screen.detail.button === DetailController.TrailerButton
             throbberVisible: screen.detail.opening === DetailController.TrailerButton
+            Accessible.role: Accessible.Button
+            Accessible.name: titleText
+            Accessible.focusable: true
+            Accessible.focused: visible && focused
         }
         PlayerButton {
             objectName: "button"
             visible: screen.detail.programme
             titleText: qsTr("TV guide")
             focused: screen.detail.button === DetailController.GuideButton
+            Accessible.role: Accessible.Button
+            Accessible.name: titleText
+            Accessible.focusable: true
+            Accessible.focused: visible && focused
         }
         PlayerButton {
             objectName: "button"
             visible: screen.detail.ofSeries
             titleText: qsTr("Episodes")
             focused: screen.detail.button === DetailController.EpisodesButton
+            Accessible.role: Accessible.Button
+            Accessible.name: titleText
+            Accessible.focusable: true
+            Accessible.focused: visible && focused
         }
         CheckableButton {
             objectName: "button"

@@ -8,6 +8,12 @@ Item {
 
     required property GuideController guide
 
+    Accessible.role: Accessible.Dialog
+    Accessible.name: guide.title
+    Accessible.description: guide.description
+    Accessible.focusable: true
+    Accessible.focused: visible
+
     Rectangle {
         anchors.fill: parent
         color: Look.backdrop

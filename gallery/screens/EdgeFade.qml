@@ -4,6 +4,7 @@ import Gallery
 
 // Lets what goes on above the screen's or a list's edge fade out; turned by 180 degrees, what goes on below.
 Rectangle {
+    objectName: "edgeFade"
     width: parent.width
     height: Look.huge
     gradient: Gradient {

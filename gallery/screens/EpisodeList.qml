@@ -46,8 +46,6 @@ ListView {
 
         width: list.width
         height: list.rowHeight
-        Accessible.role: Accessible.ListItem
-        Accessible.name: title
 
         FocusPlate {
             width: list.tile.width + 2 * Look.frame
@@ -77,6 +75,13 @@ ListView {
             itemStatus: row.status
             mediaPositionsProgressBarViewed: row.position
             mediaPositionsProgressBarValue: row.duration
+            Accessible.role: Accessible.ListItem
+            Accessible.name: row.title
+            Accessible.description: row.status
+            Accessible.focusable: true
+            Accessible.focused: visible && row.ListView.isCurrentItem && list.active
+            Accessible.selectable: true
+            Accessible.selected: row.ListView.isCurrentItem
         }
     }
     // qmllint enable unqualified

@@ -8,7 +8,7 @@ ListView {
 
     required property ChannelsController controller
 
-    implicitHeight: metrics.height + Look.small
+    implicitHeight: Math.ceil(metrics.height) + Look.small
     orientation: ListView.Horizontal
     interactive: false
     clip: true
@@ -28,6 +28,8 @@ ListView {
         color: ListView.isCurrentItem ? Look.raised : "transparent"
         Accessible.role: Accessible.PageTab
         Accessible.name: label.text
+        Accessible.selectable: true
+        Accessible.selected: ListView.isCurrentItem
 
         Label {
             id: label
@@ -41,6 +43,7 @@ ListView {
 
     // What is beside the edges fades out.
     component Fade: Rectangle {
+        objectName: "edgeFade"
         width: Look.huge
         height: parent.height
         gradient: Gradient {

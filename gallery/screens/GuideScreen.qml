@@ -87,6 +87,10 @@ FocusScope {
         FocusPlate {
             anchors.fill: parent
             visible: programmes.focus
+            Accessible.role: Accessible.StaticText
+            Accessible.name: nothing.text
+            Accessible.focusable: true
+            Accessible.focused: visible
         }
         Label {
             id: nothing
@@ -182,6 +186,8 @@ FocusScope {
         anchors.fill: parent
         visible: screen.guide.loading
         progress: screen.guide.loadProgress
+        Accessible.focusable: true
+        Accessible.focused: visible && screen.guide.channelRow < 0
     }
     DetailsOverlay {
         anchors.fill: parent

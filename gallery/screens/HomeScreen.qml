@@ -17,9 +17,27 @@ FocusScope {
     Backdrop {
         anchors.top: parent.top
         anchors.right: parent.right
-        width: Math.round(0.6 * Look.screenWidth)
+        // On a narrow screen the texts reach further under it.
+        width: Math.round((Look.wide ? 0.6 : 0.35) * Look.screenWidth)
         height: Math.round(0.45 * Look.screenHeight)
         source: screen.home.still
+    }
+    // The time can be read on any picture.
+    Rectangle {
+        anchors.top: parent.top
+        anchors.left: parent.left
+        anchors.right: parent.right
+        height: header.y + header.height + Look.huge
+        gradient: Gradient {
+            GradientStop {
+                position: 0.6
+                color: Look.badge
+            }
+            GradientStop {
+                position: 1
+                color: Look.clear
+            }
+        }
     }
     HomeHeader {
         id: header

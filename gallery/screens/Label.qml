@@ -11,4 +11,6 @@ Text {
     maximumLineCount: 1
     // The reading direction of the screen decides the side, not the script of the text.
     horizontalAlignment: Text.AlignLeft
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
 }

@@ -9,11 +9,16 @@ Item {
     // 0 to 1.
     required property real progress
 
+    Accessible.role: Accessible.ProgressBar
+    Accessible.name: message.text
+    Accessible.description: Math.round(progress * 100) + "%"
     Column {
         anchors.centerIn: parent
         spacing: Look.large
 
         Label {
+            id: message
+
             anchors.horizontalCenter: parent.horizontalCenter
             text: qsTr("Reading the guide…")
             font: Look.heading

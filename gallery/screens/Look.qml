@@ -45,7 +45,7 @@ QtObject {
     readonly property color backdrop: QmlDesignSystem.colors.oslo
     // Over a picture that texts may touch, and under a text on a picture.
     readonly property color veil: Qt.rgba(backdrop.r, backdrop.g, backdrop.b, 0.25)
-    readonly property color badge: Qt.rgba(backdrop.r, backdrop.g, backdrop.b, 0.75)
+    readonly property color badge: Qt.rgba(backdrop.r, backdrop.g, backdrop.b, 0.8)
     readonly property color clear: Qt.rgba(backdrop.r, backdrop.g, backdrop.b, 0)
     readonly property color surface: QmlDesignSystem.colors.bamako
     readonly property color raised: QmlDesignSystem.colors.bogota
@@ -87,6 +87,11 @@ QtObject {
         titleStates.checked: Look.textOnFocus
         titleStates.disabled: QmlDesignSystem.standardCheckBoxStyle.titleStates.disabled
         titleStates.focused: Look.textOnFocus
+    }
+    // Of a day without programmes.
+    readonly property PlayerEpgDateQmlStyle quietDate: FocusedDateStyle {
+        base: QmlDesignSystem.playerEpgDateStyle
+        color: Look.quietText
     }
     // Of the row of channels that has the focus.
     readonly property PlayerTvChannelItemQmlStyle focusedChannel: FocusedChannelStyle {

@@ -27,6 +27,7 @@ Item {
             objectName: "button"
             visible: buttons.player.canStartOver
             titleText: qsTr("From the start")
+            checkable: false
             focused: buttons.active && buttons.player.button === PlayerController.StartOverButton
         }
         CheckableButton {
@@ -44,6 +45,7 @@ Item {
         CheckableButton {
             objectName: "button"
             titleText: qsTr("TV guide")
+            checkable: false
             focused: buttons.active && buttons.player.button === PlayerController.GuideButton
         }
     }

@@ -16,6 +16,11 @@ FocusScope {
     Rectangle {
         anchors.fill: parent
         color: Look.backdrop
+        // What keys act on while nothing lies over the picture.
+        Accessible.role: Accessible.Graphic
+        Accessible.name: screen.player.channelName + " " + screen.player.title
+        Accessible.focusable: true
+        Accessible.focused: visible && !screen.overlaid
     }
     SizedPicture {
         pictureWidth: Look.screenWidth

@@ -64,9 +64,7 @@ Item {
 
             width: programmes.cell.width
             height: list.height
-            opacity: past && !ListView.isCurrentItem ? 0.6 : 1
-            Accessible.role: Accessible.ListItem
-            Accessible.name: exactDate + " " + title
+            opacity: past && !ListView.isCurrentItem ? 0.85 : 1
 
             FocusPlate {
                 anchors.fill: parent
@@ -85,6 +83,13 @@ Item {
                 itemTitle: row.title
                 tvProgramExactDate: row.exactDate
                 tvProgramDescription: row.description
+                Accessible.role: Accessible.ListItem
+                Accessible.name: row.exactDate + " " + row.title
+                Accessible.description: row.description
+                Accessible.focusable: true
+                Accessible.focused: visible && row.ListView.isCurrentItem && programmes.active
+                Accessible.selectable: true
+                Accessible.selected: row.ListView.isCurrentItem
             }
             ProgressLine {
                 y: Look.frame + programmes.cell.height - height
@@ -100,8 +105,14 @@ Item {
         width: programmes.cell.width
         height: parent.height
         visible: programmes.active && programmes.player.programmeRow < 0
+        Accessible.role: Accessible.StaticText
+        Accessible.name: nothing.text
+        Accessible.focusable: true
+        Accessible.focused: visible
 
         Label {
+            id: nothing
+
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.margins: Look.medium

@@ -45,8 +45,6 @@ ListView {
         width: ListView.view.width
         // A row measures one pixel less than what it paints.
         height: (focusedForm ? focusedForm.height : programme.height) + 1 + 2 * Look.small
-        Accessible.role: Accessible.ListItem
-        Accessible.name: startTimeText + " " + title
 
         Rectangle {
             anchors.fill: parent
@@ -70,6 +68,15 @@ ListView {
             tvProgramIsFuture: row.isFuture
             // What cannot be watched, now or later, is dimmed.
             tvProgramPlayable: row.isPlayable || row.isFuture
+            Accessible.role: Accessible.ListItem
+            Accessible.name: row.startTimeText + " " + row.title
+            Accessible.description: row.subtitle
+            Accessible.focusable: true
+            Accessible.selectable: true
+            Accessible.selected: row.chosen
+            // A reminder can be set for what is to come.
+            Accessible.checkable: row.isFuture
+            Accessible.checked: row.hasReminder
         }
         Image {
             objectName: "reminderMark"
@@ -100,6 +107,16 @@ ListView {
                 tvProgramPlayable: row.isPlayable
                 tvProgramProgress: row.progress
                 tvProgramHasReminder: row.hasReminder
+                Accessible.role: Accessible.ListItem
+                Accessible.name: row.startTimeText + " " + row.title
+                Accessible.description: row.subtitle
+                Accessible.focusable: true
+                Accessible.focused: visible && list.focus
+                Accessible.selectable: true
+                Accessible.selected: row.chosen
+                // A reminder can be set for what is to come.
+                Accessible.checkable: row.isFuture
+                Accessible.checked: row.hasReminder
 
                 FocusPlate {
                     x: parent.customFocusRect.x - Look.frame

@@ -30,6 +30,9 @@ ContentTile {
     imageSource: Pictures.filling(still, style.style.focusedRect.width, style.style.focusedRect.height)
     Accessible.role: Accessible.ListItem
     Accessible.name: channel + " " + title
+    Accessible.description: subtitle
+    Accessible.focusable: true
+    Accessible.focused: visible && focused
     Component.onCompleted: completed = true
 
     Rectangle {

@@ -30,6 +30,7 @@ Item {
         anchors.baseline: clock.baseline
         // Of texts with this character between them, Text shows the first one that fits.
         text: header.dayText + "\u009C" + header.shortDayText
+        Accessible.name: header.dayText
         font: Look.heading
         color: Look.quietText
     }

@@ -94,6 +94,10 @@ FocusScope {
         width: Math.round(0.6 * parent.width)
         height: nothing.height + 2 * Look.medium
         visible: screen.series.episodeRow < 0
+        Accessible.role: Accessible.StaticText
+        Accessible.name: nothing.text
+        Accessible.focusable: true
+        Accessible.focused: visible
 
         Label {
             id: nothing

@@ -15,6 +15,7 @@ ExpandableTile {
 
     itemBackgroundColor: Look.backdrop
     imageSource: Pictures.filling(source, pictureWidth, pictureHeight)
+    Accessible.ignored: true // an ornament
 
     Component.onCompleted: style = measures
 

@@ -34,5 +34,8 @@ VodTile {
     rightholderImageSource: Pictures.fitting(logo, Look.logoWidth, Look.logoHeight)
     Accessible.role: Accessible.ListItem
     Accessible.name: title
+    Accessible.description: subtitle
+    Accessible.focusable: true
+    Accessible.focused: visible && focused
     Component.onCompleted: completed = true
 }

@@ -8,7 +8,7 @@
 
 namespace gallery {
 
-/*! The style of the guide's day on the focus plate: the theme's style of days with all its texts in one colour. */
+/*! The theme's style of days with all texts in one colour: for the day on the focus plate, and for days without programmes. */
 class FocusedDateStyle : public design_system::PlayerEpgDateQmlStyle
 {
     Q_OBJECT

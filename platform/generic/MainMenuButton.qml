@@ -40,7 +40,7 @@ Pressable {
     Accessible.role: Accessible.Button
     Accessible.name: text
     Accessible.focusable: true
-    Accessible.focused: focused
+    Accessible.focused: visible && focused // told again when it comes back into sight
     Accessible.checkable: true
     Accessible.checked: checked
     Accessible.pressed: pressed

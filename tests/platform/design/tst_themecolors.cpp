@@ -1,41 +1,16 @@
 // SPDX-License-Identifier: MIT
+#include "testkit/contrast.h"
 #include "testkit/testcase.h"
 
 #include <design_system/qmldesignsystem.h>
 
 #include <algorithm>
-#include <cmath>
 
 using namespace design_system;
+using stbtest::blended;
+using stbtest::contrast;
 
 namespace {
-
-double linear(double channel)
-{
-    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-}
-
-double luminance(const QColor &c)
-{
-    return 0.2126 * linear(double(c.redF())) + 0.7152 * linear(double(c.greenF()))
-           + 0.0722 * linear(double(c.blueF()));
-}
-
-// As the web's accessibility guidelines define it, for opaque colours.
-double contrast(const QColor &a, const QColor &b)
-{
-    const double dark = std::min(luminance(a), luminance(b));
-    const double light = std::max(luminance(a), luminance(b));
-    return (light + 0.05) / (dark + 0.05);
-}
-
-// What a translucent colour looks like over another one.
-QColor blended(const QColor &c, const QColor &ground)
-{
-    const auto mixed = [&](int over, int under) { return under + (over - under) * c.alpha() / 255; };
-    return QColor(mixed(c.red(), ground.red()), mixed(c.green(), ground.green()),
-                  mixed(c.blue(), ground.blue()));
-}
 
 // The less favourable one of the brightest and the darkest picture under a translucent colour.
 double contrastOverPictures(const QColor &text, const QColor &cover)
@@ -124,7 +99,8 @@ private Q_SLOTS:
         for (const QColor &text : { style.liveStartTimeColor, style.unavailableTextColor,
                                     style.playableTextColor, style.subtitleTextStyle.color })
             QVERIFY(stands(text, screen, readable));
-        QVERIFY(stands(style.liveTextStyle.color, style.liveBadgeColor, 4.5));
+        QVERIFY(stands(style.liveTextStyle.color, style.liveBadgeColor, readable >= 7 ? 7 : 4.5));
+        QVERIFY(stands(Qt::white, style.liveBadgeColor, 3)); // the mark beside the text
         QVERIFY(contrast(style.unavailableTextColor, screen) < contrast(style.playableTextColor, screen));
     }
 
@@ -156,6 +132,8 @@ private Q_SLOTS:
         const PlayerEpisodesItemStyle episode = theme->playerEpisodesItemStyle()->style();
         QVERIFY(contrastOverPictures(episode.statusTextStyle.color, episode.statusTextStyle.backgroundColor)
                 >= 4.5);
+        // Beside the progress bar it has no ground of its own.
+        QVERIFY(contrastOverPictures(episode.statusTextStyle.color, episode.playableOverlayColor) >= 4.5);
         QVERIFY(contrastOverPictures(episode.dateUpperTextStyle.color, episode.overlayColor) >= 4.5);
         QVERIFY(contrastOverPictures(episode.dateLowerTextStyle.color, episode.overlayColor) >= 4.5);
     }
