@@ -22,7 +22,7 @@ FocusScope {
         height: Math.round(0.45 * Look.screenHeight)
         source: screen.home.still
     }
-    // The time can be read on any picture.
+    // The menu and the time are above the picture, not on it.
     Rectangle {
         anchors.top: parent.top
         anchors.left: parent.left
@@ -30,8 +30,8 @@ FocusScope {
         height: header.y + header.height + Look.huge
         gradient: Gradient {
             GradientStop {
-                position: 0.6
-                color: Look.badge
+                position: 0.7
+                color: Look.backdrop
             }
             GradientStop {
                 position: 1
