@@ -18,11 +18,12 @@ Item {
     readonly property rect tileRect: tileStyle.style.tileRect
     readonly property rect focusedRect: tileStyle.style.focusedRect
     // qmllint enable type
+    property bool placed: false
     // Nothing moves before everything has its place.
     property bool completed: false
     readonly property int step: tileRect.width + QmlDesignSystem.layouts.viewHorizontalSpacing
 
-    Component.onCompleted: completed = true
+    Component.onCompleted: { placed = true; completed = true }
     height: name.height + list.anchors.topMargin + list.height + Look.medium
 
     Binding {
@@ -57,9 +58,11 @@ Item {
         rightMargin: LayoutMirroring.enabled ? Look.safeX : width
         model: tileRow.row.tiles
         currentIndex: tileRow.row.current
-        // A list that is made far from its first tile does not get there before it knows how long it is: once more then.
-        contentX: contentWidth - contentWidth + (LayoutMirroring.enabled ? Look.safeX - width - tileRow.row.first * tileRow.step
-                                                                         : tileRow.row.first * tileRow.step - Look.safeX)
+        // A list goes to its beginning when it is completed, and does not get far before it knows how long it is: it is told
+        // again each time.
+        contentX: (tileRow.placed ? 0 : 0) + contentWidth - contentWidth
+                  + (LayoutMirroring.enabled ? Look.safeX - width - tileRow.row.first * tileRow.step
+                                             : tileRow.row.first * tileRow.step - Look.safeX)
         highlightFollowsCurrentItem: false
         // With Qt 6.4 a component cannot say that it belongs where it stands; the linter asks for that.
         // qmllint disable unqualified
