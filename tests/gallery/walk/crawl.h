@@ -19,9 +19,10 @@ QT_END_NAMESPACE
     Presses four arrows, OK and Back until every state that there is was seen and every key was tried in each.
 
     A state is which screens are open, what keys act on, and what the controller of the screen that is shown tells by
-    its properties, but for texts that are typed or made up: those have no end. States are tried in the order of their distance from the start, as far as it is known then; to
-    reach the next one the crawl walks through states that it knows, by keys, as a viewer would. Where a screen has
-    more than its limit of states, the rest of them is only left again, by Back.
+    its properties, but for texts that are typed or made up: those have no end. States are tried in the order of their
+    distance from the start, as far as it is known then; to reach the next one the crawl walks through states that it
+    knows, by keys, as a viewer would. Where a screen has more than its limit of states, the rest of them is only left
+    again, by Back.
 */
 class Crawl
 {

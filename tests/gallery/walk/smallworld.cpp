@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "smallworld.h"
 
-#include "../app/catalogues.h"
-#include "../app/channels.h"
+#include "gallery/app/catalogues.h"
+#include "gallery/app/channels.h"
 
 namespace smallworld {
 

@@ -88,6 +88,20 @@ private Q_SLOTS:
         QVERIFY2(missing.isEmpty(), qPrintable(u"never seen:\n"_s + missing.join(u'\n')));
     }
 
+    void everySettingIsChanged()
+    {
+        QStringList missing;
+        for (const QString key :
+             { "UI, language", "UI, resolution", "UI, theme", "UI, textScale", "UI, roundingEnabled",
+               "Animations, focusingEnabled", "Animations, layoutScrollingEnabled",
+               "Animations, viewportScrollingEnabled", "Animations, fadeEffectEnabled",
+               "Animations, slidingEnabled" }) {
+            if (!m_crawl->events().contains("settings.changed("_L1 + key + ')'_L1))
+                missing.append(key);
+        }
+        QCOMPARE(missing, QStringList());
+    }
+
     void noExceptionIsMadeForWhatIsReached()
     {
         for (auto it = exceptions().cbegin(); it != exceptions().cend(); ++it)
