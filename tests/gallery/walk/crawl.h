@@ -54,7 +54,7 @@ private:
         QList<Qt::Key> path; // from the start, the first that was found
         QString chosen; // what keys act on, and whether it is checked
         bool isChecked = false;
-        QHash<Qt::Key, int> next; // the states that keys lead to
+        QMap<Qt::Key, int> next; // the states that keys lead to, in an order that is always the same
         bool isOpen = true; // all keys are tried here, not only Back
     };
 
