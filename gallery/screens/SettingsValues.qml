@@ -13,7 +13,8 @@ Item {
     required property SettingsController settings
 
     property Item current: null
-    readonly property real middle: current !== null && settings.inValues
+    // A row that is about to go has no section any more.
+    readonly property real middle: current !== null && current.parent !== null && settings.inValues
                                    ? current.parent.y + current.y + current.height / 2 : 0
     readonly property int position: Math.max(0, Math.min(sections.height - height, middle - height / 2))
     readonly property bool overflows: sections.height > height
