@@ -47,7 +47,16 @@ private Q_SLOTS:
         QTest::newRow("Arabic doubling") << "محمّد"
                                          << "محمد";
         QTest::newRow("Arabic hamza") << "أخبار إلى"
-                                      << "اخبار الى";
+                                      << "اخبار الي";
+        QTest::newRow("Arabic letters written one for the other") << "مدرسة مستشفى ٱلبيت"
+                                                                  << "مدرسه مستشفي البيت";
+        QTest::newRow("digits of other scripts") << "٢٤ ساعة, ०९"
+                                                 << "24 ساعه, 09";
+        QTest::newRow("letters that have no mark")
+                << "Smørrebrød, Łódź, Æon, œuvre, Đà, ışık, Þór, Guðrún"
+                << "smorrebrod, lodz, aeon, oeuvre, da, isik, thor, gudrun";
+        QTest::newRow("apostrophes and dashes of print") << "Don’t, ‘n’ Spider‑Man – M—L"
+                                                         << "don't, 'n' spider-man - m-l";
         QTest::newRow("stretched Arabic") << "الأخبـــار"
                                           << "الاخبار";
         QTest::newRow("ligature") << "ﬁlm"
