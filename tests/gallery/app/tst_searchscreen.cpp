@@ -2,6 +2,8 @@
 #include "catalogues.h"
 #include "screentest.h"
 
+#include <QtCore/qset.h>
+
 /*! The search in its window, steered with key events. */
 class tst_SearchScreen : public ScreenTest
 {
@@ -116,9 +118,16 @@ private Q_SLOTS:
     {
         start();
         type("f");
-        for (int i = 0; i < 12; ++i) {
-            press(Qt::Key_Down);
-            QVERIFY(!search()->isInResults());
+        const auto current = [this] { return keyboard()->property("currentKey").toInt(); };
+        for (const Qt::Key key : { Qt::Key_Down, Qt::Key_Up }) {
+            QList<int> keys { current() };
+            for (int row = 0; row < 5; ++row) {
+                press(key);
+                QVERIFY(!search()->isInResults());
+                keys.append(current());
+            }
+            QCOMPARE(QSet<int>(keys.cbegin(), keys.cend()).size(), 5);
+            QCOMPARE(keys.constLast(), keys.constFirst());
         }
     }
 
@@ -155,16 +164,29 @@ private Q_SLOTS:
     void theKeyboardHasTheLettersOfTheLanguage_data()
     {
         QTest::addColumn<QString>("language");
-        for (const QString language : { "en", "ru", "de", "ar" })
-            QTest::newRow(qPrintable(language)) << language;
+        QTest::addColumn<QString>("letters"); // the first and the sixth of the first row
+        QTest::newRow("en") << "en"
+                            << "qy";
+        QTest::newRow("ru") << "ru"
+                            << "йн";
+        QTest::newRow("de") << "de"
+                            << "qz";
+        QTest::newRow("ar") << "ar"
+                            << "ضغ";
     }
     void theKeyboardHasTheLettersOfTheLanguage()
     {
         QFETCH(QString, language);
+        QFETCH(QString, letters);
         gallery::Options options;
         options.language = language;
         start(options);
         QCOMPARE(keyboard()->property("language").toString(), language);
+        press(Qt::Key_Return);
+        for (int i = 0; i < 5; ++i)
+            press(Qt::Key_Right);
+        press(Qt::Key_Return);
+        QCOMPARE(search()->text(), letters);
     }
 
     void everyResultIsWhollySeenWhileItIsChosen_data()
