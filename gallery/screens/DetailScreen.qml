@@ -90,9 +90,12 @@ FocusScope {
 
         PrimaryButton {
             objectName: "button"
-            leftIconSource: "qrc:/resources/icons/player/status/play.png"
-            titleText: screen.detail.programme ? qsTr("Watch")
-                                               : screen.detail.started ? qsTr("Continue") : qsTr("Play")
+            leftIconSource: screen.detail.toCome ? "qrc:/resources/icons/reminder_small.png"
+                                                 : "qrc:/resources/icons/player/status/play.png"
+            titleText: screen.detail.toCome ? screen.detail.reminder ? qsTr("Reminder is set") : qsTr("Remind me")
+                                            : screen.detail.programme ? qsTr("Watch")
+                                                                      : screen.detail.started ? qsTr("Continue")
+                                                                                              : qsTr("Play")
             isFixedWidth: false
             focused: screen.detail.button === DetailController.PlayButton
             throbberVisible: screen.detail.opening === DetailController.PlayButton

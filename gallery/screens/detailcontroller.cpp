@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "screens/detailcontroller.h"
 
+#include "gallery/data/clock.h"
+#include "gallery/data/reminders.h"
 #include "screens/marks.h"
 #include "screens/remotekey.h"
 
@@ -20,9 +22,45 @@ DetailController::DetailController(Marks *favourites, Marks *likes, QObject *par
     connect(m_likes, &Marks::changed, this, &DetailController::marksChanged);
 }
 
+void DetailController::setReminders(const Clock *clock, Reminders *reminders)
+{
+    m_clock = clock;
+    m_reminders = reminders;
+    connect(clock, &Clock::nowChanged, this, &DetailController::followClock);
+    connect(reminders, &Reminders::changed, this, &DetailController::marksChanged);
+}
+
+void DetailController::followClock()
+{
+    if (isToCome() == m_wasToCome)
+        return;
+    m_wasToCome = isToCome();
+    Q_EMIT itemChanged();
+}
+
+bool DetailController::isToCome() const
+{
+    return m_clock != nullptr && m_item.isProgramme() && m_item.start > m_clock->now();
+}
+
+bool DetailController::hasReminder() const
+{
+    return m_reminders != nullptr && !m_reminders->titlesAt(m_item.channelId, m_item.start).isEmpty();
+}
+
+void DetailController::toggleReminder()
+{
+    const QStringList titles = m_reminders->titlesAt(m_item.channelId, m_item.start);
+    if (titles.isEmpty())
+        m_reminders->add(m_item.channelId, m_item.start, m_item.title);
+    for (const QString &title : titles)
+        m_reminders->remove(m_item.channelId, m_item.start, title);
+}
+
 void DetailController::show(const MediaItem &item)
 {
     m_item = item;
+    m_wasToCome = isToCome();
     m_button = PlayButton;
     m_refused = false;
     setOpening(NoButton, false);
@@ -36,7 +74,9 @@ void DetailController::update(const MediaItem &item)
     if (item == m_item)
         return;
     m_item = item;
+    m_wasToCome = isToCome();
     Q_EMIT itemChanged();
+    Q_EMIT marksChanged();
 }
 
 bool DetailController::isFavourite() const
@@ -148,7 +188,9 @@ void DetailController::activate()
 
 void DetailController::play()
 {
-    if (m_item.isProgramme())
+    if (isToCome() && m_button == PlayButton)
+        toggleReminder();
+    else if (m_item.isProgramme())
         Q_EMIT watchRequested();
     else if (m_opening == NoButton)
         setOpening(m_button, false);

@@ -10,7 +10,9 @@
 
 namespace gallery {
 
+class Clock;
 class Marks;
+class Reminders;
 
 /*!
     What the detail page shows of one item, and what its buttons do. QML shows the properties and hands every key
@@ -33,6 +35,10 @@ class DetailController : public QObject
     Q_PROPERTY(bool ofSeries READ isOfSeries NOTIFY itemChanged)
     /*! Begun and not over: it is continued, not played from its start. */
     Q_PROPERTY(bool started READ isStarted NOTIFY itemChanged)
+    /*! A programme that has not begun: the first button sets or deletes its reminder. */
+    Q_PROPERTY(bool toCome READ isToCome NOTIFY itemChanged)
+    /*! Whether the programme has a reminder. */
+    Q_PROPERTY(bool reminder READ hasReminder NOTIFY marksChanged)
 
     Q_PROPERTY(bool favourite READ isFavourite NOTIFY marksChanged)
     Q_PROPERTY(bool liked READ isLiked NOTIFY marksChanged)
@@ -68,6 +74,11 @@ public:
     /*! The marks outlive this object. */
     DetailController(Marks *favourites, Marks *likes, QObject *parent = nullptr);
 
+    /*!
+        Programmes that start after the time of \a clock can be reminded of; the reminders are kept in \a reminders. Both
+        outlive this object. Without them (the default) no programme is to come.
+    */
+    void setReminders(const Clock *clock, Reminders *reminders);
     /*! Shows \a item, with the keys on the first button. */
     void show(const MediaItem &item);
     /*! Shows what has become of the item; everything else stays. */
@@ -85,6 +96,8 @@ public:
     bool isProgramme() const { return m_item.isProgramme(); }
     bool isOfSeries() const { return m_item.series >= 0; }
     bool isStarted() const { return progress() > 0 && progress() < 1; }
+    bool isToCome() const;
+    bool hasReminder() const;
 
     bool isFavourite() const;
     bool isLiked() const;
@@ -102,7 +115,8 @@ public:
 
     /*!
         Handles a remote key; false when it means nothing here. Left, Right, Home and End choose a button, Return
-        presses it: a programme is watched at once, anything else takes a while to open. The yellow key makes it a
+        presses it: a programme is watched at once, or gets a reminder when it is to come, and anything else takes a
+        while to open. The yellow key makes it a
         favourite or none. Back stops what is being
         opened, else asks to go back.
     */
@@ -130,9 +144,13 @@ private:
     void choose(int index);
     void setOpening(Button button, bool opened);
     void setRefused(bool refused);
+    void toggleReminder();
+    void followClock();
 
     Marks *m_favourites;
     Marks *m_likes;
+    const Clock *m_clock = nullptr;
+    Reminders *m_reminders = nullptr;
     MediaItem m_item;
     QTimer m_timer;
     Button m_button = PlayButton;
@@ -140,6 +158,7 @@ private:
     bool m_opened = false;
     bool m_refused = false;
     bool m_mirrored = false;
+    bool m_wasToCome = false;
 };
 
 } // namespace gallery

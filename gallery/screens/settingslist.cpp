@@ -148,9 +148,9 @@ SettingsSection animations(const SettingsStore &store)
     const auto add = [&](const QString &title, const QString &key) {
         section.rows.append(switchRow(store, title, u"Animations"_s, key, true));
     };
-    add(QCoreApplication::translate("Settings", "The focus grows"), u"focusingEnabled"_s);
-    add(QCoreApplication::translate("Settings", "Lists scroll"), u"layoutScrollingEnabled"_s);
-    add(QCoreApplication::translate("Settings", "Pages scroll"), u"viewportScrollingEnabled"_s);
+    add(QCoreApplication::translate("Settings", "The focus grows smoothly"), u"focusingEnabled"_s);
+    add(QCoreApplication::translate("Settings", "Lists scroll smoothly"), u"layoutScrollingEnabled"_s);
+    add(QCoreApplication::translate("Settings", "Pages scroll smoothly"), u"viewportScrollingEnabled"_s);
     add(QCoreApplication::translate("Settings", "Pictures fade in"), u"fadeEffectEnabled"_s);
     add(QCoreApplication::translate("Settings", "Panels slide in"), u"slidingEnabled"_s);
     return section;

@@ -37,6 +37,7 @@ ShellController::ShellController(const QString &remindersFile, QObject *parent)
     , m_open({ homeScreen })
 {
     m_guide.setReminders(&m_reminders);
+    m_detail.setReminders(&m_clock, &m_reminders);
     m_menu.setOpenScreens(m_open);
     connectScreens();
 }

@@ -209,6 +209,14 @@
 <context>
     <name>DetailScreen</name>
     <message>
+        <source>Reminder is set</source>
+        <translation>التذكير مفعّل</translation>
+    </message>
+    <message>
+        <source>Remind me</source>
+        <translation>ذكّرني</translation>
+    </message>
+    <message>
         <source>Watch</source>
         <translation>شاهد</translation>
     </message>
@@ -839,16 +847,16 @@
         <translation>زوايا مستديرة</translation>
     </message>
     <message>
-        <source>The focus grows</source>
-        <translation>تكبير العنصر المحدد</translation>
+        <source>The focus grows smoothly</source>
+        <translation>تكبير العنصر المحدد بسلاسة</translation>
     </message>
     <message>
-        <source>Lists scroll</source>
-        <translation>تمرير القوائم</translation>
+        <source>Lists scroll smoothly</source>
+        <translation>تمرير القوائم بسلاسة</translation>
     </message>
     <message>
-        <source>Pages scroll</source>
-        <translation>تمرير الصفحات</translation>
+        <source>Pages scroll smoothly</source>
+        <translation>تمرير الصفحات بسلاسة</translation>
     </message>
     <message>
         <source>Pictures fade in</source>

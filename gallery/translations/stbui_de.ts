@@ -209,6 +209,14 @@
 <context>
     <name>DetailScreen</name>
     <message>
+        <source>Reminder is set</source>
+        <translation>Erinnerung ist an</translation>
+    </message>
+    <message>
+        <source>Remind me</source>
+        <translation>Erinnern</translation>
+    </message>
+    <message>
         <source>Watch</source>
         <translation>Ansehen</translation>
     </message>
@@ -839,16 +847,16 @@
         <translation>Runde Ecken</translation>
     </message>
     <message>
-        <source>The focus grows</source>
-        <translation>Auswahl wächst</translation>
+        <source>The focus grows smoothly</source>
+        <translation>Auswahl wächst fließend</translation>
     </message>
     <message>
-        <source>Lists scroll</source>
-        <translation>Listen rollen</translation>
+        <source>Lists scroll smoothly</source>
+        <translation>Listen rollen fließend</translation>
     </message>
     <message>
-        <source>Pages scroll</source>
-        <translation>Seiten rollen</translation>
+        <source>Pages scroll smoothly</source>
+        <translation>Seiten rollen fließend</translation>
     </message>
     <message>
         <source>Pictures fade in</source>

@@ -209,6 +209,14 @@
 <context>
     <name>DetailScreen</name>
     <message>
+        <source>Reminder is set</source>
+        <translation>Reminder is set</translation>
+    </message>
+    <message>
+        <source>Remind me</source>
+        <translation>Remind me</translation>
+    </message>
+    <message>
         <source>Watch</source>
         <translation>Watch</translation>
     </message>
@@ -839,16 +847,16 @@
         <translation>Rounded corners</translation>
     </message>
     <message>
-        <source>The focus grows</source>
-        <translation>The focus grows</translation>
+        <source>The focus grows smoothly</source>
+        <translation>The focus grows smoothly</translation>
     </message>
     <message>
-        <source>Lists scroll</source>
-        <translation>Lists scroll</translation>
+        <source>Lists scroll smoothly</source>
+        <translation>Lists scroll smoothly</translation>
     </message>
     <message>
-        <source>Pages scroll</source>
-        <translation>Pages scroll</translation>
+        <source>Pages scroll smoothly</source>
+        <translation>Pages scroll smoothly</translation>
     </message>
     <message>
         <source>Pictures fade in</source>

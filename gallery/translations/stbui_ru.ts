@@ -209,6 +209,14 @@
 <context>
     <name>DetailScreen</name>
     <message>
+        <source>Reminder is set</source>
+        <translation>Напоминание включено</translation>
+    </message>
+    <message>
+        <source>Remind me</source>
+        <translation>Напомнить</translation>
+    </message>
+    <message>
         <source>Watch</source>
         <translation>Смотреть</translation>
     </message>
@@ -839,15 +847,15 @@
         <translation>Скруглённые углы</translation>
     </message>
     <message>
-        <source>The focus grows</source>
+        <source>The focus grows smoothly</source>
         <translation>Плавный рост выделенного</translation>
     </message>
     <message>
-        <source>Lists scroll</source>
+        <source>Lists scroll smoothly</source>
         <translation>Плавная прокрутка списков</translation>
     </message>
     <message>
-        <source>Pages scroll</source>
+        <source>Pages scroll smoothly</source>
         <translation>Плавная прокрутка страниц</translation>
     </message>
     <message>

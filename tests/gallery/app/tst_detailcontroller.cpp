@@ -3,6 +3,8 @@
 #include "guides.h"
 #include "testkit/testcase.h"
 
+#include "gallery/data/clock.h"
+#include "gallery/data/reminders.h"
 #include "screens/detailcontroller.h"
 #include "screens/marks.h"
 
@@ -65,6 +67,59 @@ private Q_SLOTS:
         m->press({ Qt::Key_End });
         m->showFilm(1);
         QCOMPARE(m->detail.button(), DetailController::PlayButton);
+    }
+
+    void aProgrammeThatIsToComeIsRemindedOfAndNotWatched()
+    {
+        gallery::Clock clock;
+        clock.setFixed(guides::at(19, 55));
+        gallery::Reminders reminders { QString() };
+        m->detail.setReminders(&clock, &reminders);
+        m->showProgramme(); // from 20:00 on
+        QSignalSpy watched(&m->detail, &DetailController::watchRequested);
+        QSignalSpy marks(&m->detail, &DetailController::marksChanged);
+        QVERIFY(m->detail.isToCome());
+        QVERIFY(!m->detail.hasReminder());
+        m->press({ Qt::Key_Return });
+        QVERIFY(m->detail.hasReminder());
+        QCOMPARE(reminders.count(), 1);
+        QCOMPARE(marks.count(), 1);
+        m->press({ Qt::Key_Return });
+        QVERIFY(!m->detail.hasReminder());
+        QCOMPARE(reminders.count(), 0);
+        QCOMPARE(watched.count(), 0);
+    }
+
+    void aProgrammeThatBeginsMeanwhileIsWatched()
+    {
+        gallery::Clock clock;
+        clock.setFixed(guides::at(19, 59));
+        gallery::Reminders reminders { QString() };
+        m->detail.setReminders(&clock, &reminders);
+        m->showProgramme();
+        QSignalSpy changed(&m->detail, &DetailController::itemChanged);
+        QSignalSpy watched(&m->detail, &DetailController::watchRequested);
+        clock.setFixed(guides::at(20, 0));
+        QCOMPARE(changed.count(), 1);
+        QVERIFY(!m->detail.isToCome());
+        m->press({ Qt::Key_Return });
+        QCOMPARE(watched.count(), 1);
+        QCOMPARE(reminders.count(), 0);
+        clock.setFixed(guides::at(20, 1));
+        QCOMPARE(changed.count(), 1);
+    }
+
+    void aFilmIsNeverToCome()
+    {
+        gallery::Clock clock;
+        clock.setFixed(guides::at(19, 55));
+        gallery::Reminders reminders { QString() };
+        m->detail.setReminders(&clock, &reminders);
+        m->showFilm(0);
+        QVERIFY(!m->detail.isToCome());
+        m->press({ Qt::Key_Return });
+        QCOMPARE(m->detail.opening(), DetailController::PlayButton);
+        QCOMPARE(reminders.count(), 0);
     }
 
     void leftAndRightChooseButtonsAndStopAtTheEnds()

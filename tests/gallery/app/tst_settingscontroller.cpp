@@ -92,8 +92,8 @@ private Q_SLOTS:
         m->focusGroup(Look);
         QCOMPARE(titles(), QStringList { "Rounded corners" });
         m->focusGroup(Movement);
-        QCOMPARE(titles(), (QStringList { "The focus grows", "Lists scroll", "Pages scroll",
-                                          "Pictures fade in", "Panels slide in" }));
+        QCOMPARE(titles(), (QStringList { "The focus grows smoothly", "Lists scroll smoothly",
+                                          "Pages scroll smoothly", "Pictures fade in", "Panels slide in" }));
     }
 
     void rowsAreNumberedThroughAllSections()
