@@ -364,11 +364,18 @@ private Q_SLOTS:
         m->search()->press(Qt::Key_Right);
         m->search()->press(Qt::Key_Return);
         QCOMPARE(m->detail()->title(), "A42");
+        // It cannot be watched yet: OK sets its reminder, which the guide has too, and deletes it.
+        for (const bool reminder : { true, false, true }) {
+            m->detail()->press(Qt::Key_Return);
+            QCOMPARE(m->screen(), "detail");
+            QCOMPARE(m->detail()->hasReminder(), reminder);
+        }
         m->clock()->setFixed(guides::at(20, 31));
         QCOMPARE(m->detail()->title(), "A42");
         m->clock()->setFixed(guides::at(21, 15));
         QCOMPARE(m->detail()->title(), "A42");
         QCOMPARE(m->detail()->progress(), 0.5);
+        QVERIFY(!m->detail()->isToCome());
         m->clock()->setFixed(guides::at(21, 31));
         QCOMPARE(m->detail()->title(), "A43");
     }
