@@ -2,7 +2,7 @@
 #include "screens/detailcontroller.h"
 
 #include "gallery/data/clock.h"
-#include "gallery/data/reminders.h"
+#include "gallery/data/programmereminders.h"
 #include "screens/marks.h"
 #include "screens/remotekey.h"
 
@@ -43,18 +43,30 @@ bool DetailController::isToCome() const
     return m_clock != nullptr && m_item.isProgramme() && m_item.start > m_clock->now();
 }
 
+void DetailController::setGuide(const Guide &guide)
+{
+    m_guide = guide;
+    Q_EMIT marksChanged();
+}
+
+// The programme in the guide; -1 when that does not have it.
+int DetailController::programmeRow() const
+{
+    const int channel = m_item.isProgramme() ? channelRow() : -1;
+    return channel < 0 ? -1 : m_guide.programmeLike(channel, m_item.start.toSecsSinceEpoch(), m_item.title);
+}
+
 bool DetailController::hasReminder() const
 {
-    return m_reminders != nullptr && !m_reminders->titlesAt(m_item.channelId, m_item.start).isEmpty();
+    const int programme = programmeRow();
+    return m_reminders != nullptr && programme >= 0
+           && gallery::hasReminder(*m_reminders, m_guide, channelRow(), programme);
 }
 
 void DetailController::toggleReminder()
 {
-    const QStringList titles = m_reminders->titlesAt(m_item.channelId, m_item.start);
-    if (titles.isEmpty())
-        m_reminders->add(m_item.channelId, m_item.start, m_item.title);
-    for (const QString &title : titles)
-        m_reminders->remove(m_item.channelId, m_item.start, title);
+    if (const int programme = programmeRow(); programme >= 0)
+        gallery::toggleReminder(m_reminders, m_guide, channelRow(), programme);
 }
 
 void DetailController::show(const MediaItem &item)

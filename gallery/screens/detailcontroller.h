@@ -2,6 +2,7 @@
 #ifndef GALLERY_SCREENS_DETAILCONTROLLER_H
 #define GALLERY_SCREENS_DETAILCONTROLLER_H
 
+#include "gallery/data/guide.h"
 #include "screens/mediaitem.h"
 
 #include <QtCore/qobject.h>
@@ -79,6 +80,8 @@ public:
         outlive this object. Without them (the default) no programme is to come.
     */
     void setReminders(const Clock *clock, Reminders *reminders);
+    /*! The guide that programmes come from. A programme that it does not have cannot be reminded of. */
+    void setGuide(const Guide &guide);
     /*! Shows \a item, with the keys on the first button. */
     void show(const MediaItem &item);
     /*! Shows what has become of the item; everything else stays. */
@@ -146,11 +149,14 @@ private:
     void setRefused(bool refused);
     void toggleReminder();
     void followClock();
+    int channelRow() const { return m_guide.channelIndex(m_item.channelId); }
+    int programmeRow() const;
 
     Marks *m_favourites;
     Marks *m_likes;
     const Clock *m_clock = nullptr;
     Reminders *m_reminders = nullptr;
+    Guide m_guide;
     MediaItem m_item;
     QTimer m_timer;
     Button m_button = PlayButton;

@@ -10,9 +10,8 @@
 namespace gallery {
 
 /*!
-    A channel's programmes of one day, each with whether the viewer wants to be reminded of it. A reminder belongs to
-    what starts on its channel at its time; of several programmes to that of its title, else to the first. So it is
-    found again in another language, and when a programme gets a new title. Of a channel that is locked nothing is playable.
+    A channel's programmes of one day, each with whether the viewer wants to be reminded of it. Of a channel that is
+    locked nothing is playable.
 */
 class GuideProgrammeModel : public ProgrammeModel
 {
@@ -36,10 +35,6 @@ public:
     QHash<int, QByteArray> roleNames() const override;
 
 private:
-    QString channelId() const;
-    QStringList remindersOf(int row) const;
-    QStringList titlesTogetherWith(int programme) const;
-    QString shownTitle(int programme) const;
     void updateReminders();
 
     QPointer<Reminders> m_reminders;

@@ -54,6 +54,7 @@ void ShellController::connectScreens()
     connect(&m_detail, &DetailController::watchRequested, this, &ShellController::watchItem);
     connect(&m_detail, &DetailController::backRequested, this, &ShellController::goBack);
     connect(&m_guide, &GuideController::guideShown, this, [this] {
+        m_detail.setGuide(m_guide.shownGuide());
         m_home.setGuide(m_guide.shownGuide());
         m_channels.setGuide(m_guide.shownGuide(), m_guide.content());
         m_player.setGuide(m_guide.shownGuide());

@@ -75,6 +75,7 @@ private Q_SLOTS:
         clock.setFixed(guides::at(19, 55));
         gallery::Reminders reminders { QString() };
         m->detail.setReminders(&clock, &reminders);
+        m->detail.setGuide(guides::five());
         m->showProgramme(); // from 20:00 on
         QSignalSpy watched(&m->detail, &DetailController::watchRequested);
         QSignalSpy marks(&m->detail, &DetailController::marksChanged);
@@ -96,6 +97,7 @@ private Q_SLOTS:
         clock.setFixed(guides::at(19, 59));
         gallery::Reminders reminders { QString() };
         m->detail.setReminders(&clock, &reminders);
+        m->detail.setGuide(guides::five());
         m->showProgramme();
         QSignalSpy changed(&m->detail, &DetailController::itemChanged);
         QSignalSpy watched(&m->detail, &DetailController::watchRequested);
@@ -109,12 +111,51 @@ private Q_SLOTS:
         QCOMPARE(changed.count(), 1);
     }
 
+    void theReminderIsOfThisProgrammeAndNotOfOneThatStartsTogetherWithIt()
+    {
+        gallery::GuideBuilder builder;
+        guides::addChannel(builder, "x",
+                           { { "First", guides::at(20, 0), guides::at(20, 30) },
+                             { "Second", guides::at(20, 0), guides::at(20, 30) } });
+        const gallery::Guide guide = builder.take();
+        gallery::Clock clock;
+        clock.setFixed(guides::at(19, 0));
+        gallery::Reminders reminders { QString() };
+        m->detail.setReminders(&clock, &reminders);
+        m->detail.setGuide(guide);
+        const auto show = [&](int programme) {
+            m->detail.show(gallery::programmeItem(guide, 0, programme, clock.now()));
+        };
+        show(0);
+        m->press({ Qt::Key_Return });
+        show(1);
+        QVERIFY(!m->detail.hasReminder());
+        m->press({ Qt::Key_Return });
+        QCOMPARE(reminders.count(), 2);
+        m->press({ Qt::Key_Return });
+        show(0);
+        QVERIFY(m->detail.hasReminder());
+    }
+
+    void withoutItsProgrammeInTheGuideThereIsNoReminder()
+    {
+        gallery::Clock clock;
+        clock.setFixed(guides::at(19, 55));
+        gallery::Reminders reminders { QString() };
+        m->detail.setReminders(&clock, &reminders);
+        m->showProgramme();
+        m->press({ Qt::Key_Return });
+        QVERIFY(!m->detail.hasReminder());
+        QCOMPARE(reminders.count(), 0);
+    }
+
     void aFilmIsNeverToCome()
     {
         gallery::Clock clock;
         clock.setFixed(guides::at(19, 55));
         gallery::Reminders reminders { QString() };
         m->detail.setReminders(&clock, &reminders);
+        m->detail.setGuide(guides::five());
         m->showFilm(0);
         QVERIFY(!m->detail.isToCome());
         m->press({ Qt::Key_Return });
