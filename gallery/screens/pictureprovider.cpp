@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "gallery/screens/pictureprovider.h"
 
-#include "gallery/screens/picturedecoder.h"
+#include "gallery/screens/picturejob.h"
 
 #include <QtCore/qbuffer.h>
+#include <QtCore/qdatetime.h>
 #include <QtCore/qfile.h>
 #include <QtCore/qfileinfo.h>
 #include <QtCore/qurlquery.h>
@@ -12,6 +13,13 @@
 #include <memory>
 
 namespace gallery {
+
+/*! Which picture, and how it is to come out. */
+struct PictureRequested
+{
+    QUrl picture;
+    PictureShape shape;
+};
 
 namespace {
 
@@ -22,12 +30,6 @@ constexpr QLatin1String widthKey("width");
 constexpr QLatin1String heightKey("height");
 constexpr QLatin1String wholeKey("whole");
 constexpr QLatin1String marginKey("margin");
-
-struct Request
-{
-    QUrl picture;
-    PictureShape shape;
-};
 
 // The picture's address is written in base 64, because an address is decoded and encoded on its way here.
 QUrl addressOf(const QUrl &picture, const QSize &size, QLatin1String extraKey = {}, int extra = 1)
@@ -49,13 +51,13 @@ QUrl addressOf(const QUrl &picture, const QSize &size, QLatin1String extraKey = 
     return url;
 }
 
-Request requestOf(const QString &id, const QSize &requestedSize)
+PictureRequested requestOf(const QString &id, const QSize &requestedSize)
 {
     const QByteArray code = id.section(u'?', 0, 0).toLatin1();
     const QUrlQuery query(id.section(u'?', 1));
     const QSize asked(query.queryItemValue(widthKey).toInt(), query.queryItemValue(heightKey).toInt());
     const QSize size = asked.isEmpty() ? requestedSize : asked;
-    Request request;
+    PictureRequested request;
     request.picture = QUrl::fromEncoded(QByteArray::fromBase64(code, QByteArray::Base64UrlEncoding));
     request.shape.size = size.isEmpty() ? QSize() : size.boundedTo({ largestSide, largestSide });
     request.shape.whole = query.hasQueryItem(wholeKey) || query.hasQueryItem(marginKey);
@@ -83,6 +85,13 @@ QString fileOf(const QUrl &url)
     return url.toLocalFile();
 }
 
+// As what a picture is kept: its address and size, and of a file which state of it.
+QString keyOf(const QString &id, const QFileInfo &file)
+{
+    return id + u'@' + QString::number(file.lastModified().toMSecsSinceEpoch()) + u'+'
+           + QString::number(file.size());
+}
+
 DecodedPicture decodeFile(const QString &name, const PictureShape &shape)
 {
     // Reading a pipe or a device might never end.
@@ -99,106 +108,59 @@ DecodedPicture decodeBytes(QByteArray bytes, const PictureShape &shape)
     return decodePicture(&buffer, shape);
 }
 
-/*!
-    What a response and the threads that work for it share. A thread speaks to the response only through its event
-    queue and only while it is there, so that everything about a response happens in the response's own thread.
-*/
-struct Job
-{
-    QMutex mutex;
-    QQuickImageResponse *response = nullptr;
-    std::atomic<bool> cancelled = false;
-    DecodedPicture result; // the working thread's until finish()
-
-    void finish(const DecodedPicture &picture)
-    {
-        result = picture;
-        const QMutexLocker lock(&mutex);
-        if (response)
-            QMetaObject::invokeMethod(response, "deliver", Qt::QueuedConnection);
-    }
-};
-
 } // namespace
 
-/*! One picture on its way. Lives, and is only touched, in the engine's thread for pictures. */
+/*! One tile's wish. Lives, and is only touched, in the engine's thread for pictures. */
 class PictureResponse : public QQuickImageResponse
 {
     Q_OBJECT
 public:
-    PictureResponse(PictureProvider *provider, quint64 id, const Request &request);
+    PictureResponse(PictureProvider *provider, const QString &id, const QSize &requestedSize);
     ~PictureResponse() override;
 
     QQuickTextureFactory *textureFactory() const override;
-    QString errorString() const override { return m_job->result.error; }
+    QString errorString() const override { return m_job->result().error; }
     void cancel() override;
 
 private Q_SLOTS:
     void deliver();
 
 private:
-    void download(const Request &request);
-    void detach();
+    void leave();
 
     PictureProvider *m_provider = nullptr; // outlives its responses
-    quint64 m_id = 0;
-    std::shared_ptr<Job> m_job = std::make_shared<Job>();
-    bool m_downloads = false;
+    QString m_id;
+    std::shared_ptr<PictureJob> m_job;
     bool m_delivered = false;
 };
 
-PictureResponse::PictureResponse(PictureProvider *provider, quint64 id, const Request &request)
+PictureResponse::PictureResponse(PictureProvider *provider, const QString &id, const QSize &requestedSize)
     : m_provider(provider)
-    , m_id(id)
+    , m_id(id + u'/' + QString::number(requestedSize.width()) + u'x' + QString::number(requestedSize.height()))
 {
     ++m_provider->m_pending;
-    m_job->response = this;
-    if (isDownloaded(request.picture)) {
-        download(request);
+    m_job = m_provider->runningJob(m_id);
+    if (m_job && m_job->join(this))
         return;
-    }
-    m_provider->m_decoders.start([job = m_job, file = fileOf(request.picture), shape = request.shape] {
-        if (!job->cancelled)
-            job->finish(decodeFile(file, shape));
-    });
+    m_job = m_provider->startJob(m_id, requestOf(id, requestedSize), this);
 }
 
 PictureResponse::~PictureResponse()
 {
-    detach();
+    leave();
     if (!m_delivered)
         --m_provider->m_pending;
 }
 
-void PictureResponse::download(const Request &request)
-{
-    m_downloads = true;
-    const auto done = [job = m_job, decoders = &m_provider->m_decoders,
-                       shape = request.shape](const QByteArray &content, const QString &error) {
-        if (!error.isEmpty()) {
-            job->finish({ {}, error });
-            return;
-        }
-        decoders->start([job, content, shape] {
-            if (!job->cancelled)
-                job->finish(decodeBytes(content, shape));
-        });
-    };
-    PictureFetcher *fetcher = m_provider->fetcher();
-    QMetaObject::invokeMethod(
-            fetcher, [fetcher, id = m_id, url = request.picture, done] { fetcher->fetch(id, url, done); },
-            Qt::QueuedConnection);
-}
-
 QQuickTextureFactory *PictureResponse::textureFactory() const
 {
-    return QQuickTextureFactory::textureFactoryForImage(m_job->result.image);
+    return QQuickTextureFactory::textureFactoryForImage(m_job->result().image);
 }
 
 // The engine forgets a response with its word that it is finished, which a cancelled one owes as well.
 void PictureResponse::cancel()
 {
-    detach();
+    leave();
     deliver();
 }
 
@@ -208,18 +170,16 @@ void PictureResponse::deliver()
         return;
     m_delivered = true;
     --m_provider->m_pending;
+    m_provider->forgetJob(m_id, m_job);
     Q_EMIT finished();
 }
 
-void PictureResponse::detach()
+void PictureResponse::leave()
 {
-    m_job->cancelled = true;
-    const QMutexLocker lock(&m_job->mutex);
-    if (!m_job->response)
+    if (!m_job->leave(this))
         return;
-    m_job->response = nullptr;
-    if (m_downloads)
-        m_provider->cancelDownload(m_id);
+    m_provider->forgetJob(m_id, m_job);
+    m_provider->cancelDownload(m_job->id());
 }
 
 QString PictureProvider::name()
@@ -227,8 +187,9 @@ QString PictureProvider::name()
     return QStringLiteral("pictures");
 }
 
-PictureProvider::PictureProvider(const DownloadLimits &limits)
+PictureProvider::PictureProvider(const DownloadLimits &limits, qsizetype budget)
     : m_fetcher(new PictureFetcher(limits))
+    , m_store(budget)
 {
     m_decoders.setMaxThreadCount(decodingThreads);
     m_fetcher->moveToThread(&m_network);
@@ -251,7 +212,83 @@ PictureProvider::~PictureProvider()
 
 QQuickImageResponse *PictureProvider::requestImageResponse(const QString &id, const QSize &requestedSize)
 {
-    return new PictureResponse(this, ++m_lastId, requestOf(id, requestedSize));
+    return new PictureResponse(this, id, requestedSize);
+}
+
+std::shared_ptr<PictureJob> PictureProvider::runningJob(const QString &id)
+{
+    const QMutexLocker lock(&m_mutex);
+    return m_jobs.value(id).lock();
+}
+
+void PictureProvider::forgetJob(const QString &id, const std::shared_ptr<PictureJob> &job)
+{
+    const QMutexLocker lock(&m_mutex);
+    const auto found = m_jobs.constFind(id);
+    if (found != m_jobs.cend() && found->lock() == job)
+        m_jobs.erase(found);
+}
+
+std::shared_ptr<PictureJob> PictureProvider::startJob(const QString &id, const PictureRequested &request,
+                                                      PictureResponse *response)
+{
+    const auto job = std::make_shared<PictureJob>(++m_lastId);
+    job->join(response);
+    {
+        const QMutexLocker lock(&m_mutex);
+        m_jobs.insert(id, job);
+    }
+    if (isDownloaded(request.picture))
+        download(id, request, job);
+    else
+        m_decoders.start([this, id, request, job] { readFile(id, request, job); });
+    return job;
+}
+
+// In a decoding thread, since even asking for a file's time may take long.
+void PictureProvider::readFile(const QString &id, const PictureRequested &request,
+                               const std::shared_ptr<PictureJob> &job)
+{
+    if (job->isGivenUp())
+        return;
+    const QString name = fileOf(request.picture);
+    const QString key = keyOf(id, QFileInfo(name));
+    if (const QImage kept = m_store.find(key); !kept.isNull())
+        job->finish({ kept, {} });
+    else
+        decoded(key, decodeFile(name, request.shape), job);
+}
+
+void PictureProvider::decoded(const QString &key, const DecodedPicture &picture,
+                              const std::shared_ptr<PictureJob> &job)
+{
+    ++m_decoded;
+    m_store.insert(key, picture.image);
+    job->finish(picture);
+}
+
+void PictureProvider::download(const QString &id, const PictureRequested &request,
+                               const std::shared_ptr<PictureJob> &job)
+{
+    if (const QImage kept = m_store.find(id); !kept.isNull()) {
+        job->finish({ kept, {} });
+        return;
+    }
+    const auto done = [this, id, shape = request.shape, job](const QByteArray &content, const QString &error) {
+        if (!error.isEmpty()) {
+            job->finish({ {}, error });
+            return;
+        }
+        m_decoders.start([this, id, shape, job, content] {
+            if (!job->isGivenUp())
+                decoded(id, decodeBytes(content, shape), job);
+        });
+    };
+    PictureFetcher *fetcher = this->fetcher();
+    QMetaObject::invokeMethod(
+            fetcher,
+            [fetcher, id = job->id(), url = request.picture, done] { fetcher->fetch(id, url, done); },
+            Qt::QueuedConnection);
 }
 
 PictureFetcher *PictureProvider::fetcher()
@@ -264,7 +301,10 @@ PictureFetcher *PictureProvider::fetcher()
 
 void PictureProvider::cancelDownload(quint64 id)
 {
-    PictureFetcher *fetcher = this->fetcher();
+    const QMutexLocker lock(&m_mutex);
+    if (!m_network.isRunning())
+        return;
+    PictureFetcher *fetcher = m_fetcher;
     QMetaObject::invokeMethod(
             fetcher, [fetcher, id] { fetcher->cancel(id); }, Qt::QueuedConnection);
 }

@@ -3,7 +3,9 @@
 #define GALLERY_PICTUREPROVIDER_H
 
 #include "gallery/screens/picturefetcher.h"
+#include "gallery/screens/picturestore.h"
 
+#include <QtCore/qhash.h>
 #include <QtCore/qmutex.h>
 #include <QtCore/qthread.h>
 #include <QtCore/qthreadpool.h>
@@ -11,10 +13,17 @@
 #include <QtQuick/qquickimageprovider.h>
 
 #include <atomic>
+#include <memory>
 
 namespace gallery {
 
+class PictureJob;
 class PictureResponse;
+struct DecodedPicture;
+struct PictureRequested;
+
+/*! Bytes of pictures that are kept for the next tile that shows them: some 80 posters of a full HD screen. */
+constexpr qsizetype pictureBudget = 32 * 1024 * 1024;
 
 /*!
     Gives screens pictures at the size in which they are shown: `image://pictures/...`, with addresses made by
@@ -24,6 +33,10 @@ class PictureResponse;
     picture that is missing, broken, too large or too slow has no image; whoever asked keeps its background. Of a
     picture at most 16 megapixels are decoded and 32 MB read; the limits of downloads are those of DownloadLimits.
     A picture that is no longer wanted is not downloaded further and its decoding not begun.
+
+    Whoever asks for the same picture in the same size shares one download, one decoding and the pixels. Pictures
+    that were delivered are kept up to \a budget bytes; a file that has changed since then is read again, a download is not
+    repeated while its picture is kept.
 */
 class PictureProvider : public QQuickAsyncImageProvider
 {
@@ -32,26 +45,40 @@ public:
     /*! The name that the addresses of pictures are made with: "pictures". */
     static QString name();
 
-    explicit PictureProvider(const DownloadLimits &limits = {});
+    explicit PictureProvider(const DownloadLimits &limits = {}, qsizetype budget = pictureBudget);
     ~PictureProvider() override;
 
     /*! How many pictures are asked for and not delivered yet. May be called in any thread. */
     int pendingPictures() const { return m_pending; }
+    /*! How many pictures were decoded, or could not be. May be called in any thread. */
+    int decodedPictures() const { return m_decoded; }
+    /*! Bytes of the pictures that are kept. May be called in any thread. */
+    qsizetype keptBytes() const { return m_store.bytes(); }
 
     QQuickImageResponse *requestImageResponse(const QString &id, const QSize &requestedSize) override;
 
 private:
     friend class PictureResponse;
 
+    std::shared_ptr<PictureJob> runningJob(const QString &id);
+    std::shared_ptr<PictureJob> startJob(const QString &id, const PictureRequested &request,
+                                         PictureResponse *response);
+    void forgetJob(const QString &id, const std::shared_ptr<PictureJob> &job);
+    void readFile(const QString &id, const PictureRequested &request, const std::shared_ptr<PictureJob> &job);
+    void download(const QString &id, const PictureRequested &request, const std::shared_ptr<PictureJob> &job);
+    void decoded(const QString &key, const DecodedPicture &picture, const std::shared_ptr<PictureJob> &job);
     PictureFetcher *fetcher();
     void cancelDownload(quint64 id);
 
     QThreadPool m_decoders;
-    QMutex m_mutex; // for the start of m_network
+    QMutex m_mutex; // for the start of m_network, and for m_jobs
     QThread m_network; // started with the first download
     PictureFetcher *m_fetcher = nullptr; // works in m_network
-    std::atomic<quint64> m_lastId = 0;
+    QHash<QString, std::weak_ptr<PictureJob>> m_jobs; // what is on its way
+    PictureStore m_store;
+    quint64 m_lastId = 0;
     std::atomic<int> m_pending = 0;
+    std::atomic<int> m_decoded = 0;
 };
 
 /*! Makes addresses for PictureProvider; in QML the singleton `Pictures`. */

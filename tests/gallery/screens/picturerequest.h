@@ -11,10 +11,17 @@
 class PictureEngine : public QQmlEngine
 {
 public:
-    explicit PictureEngine(const gallery::DownloadLimits &limits = {})
+    explicit PictureEngine(const gallery::DownloadLimits &limits = {},
+                           qsizetype budget = gallery::pictureBudget)
+        : m_provider(new gallery::PictureProvider(limits, budget))
     {
-        addImageProvider(gallery::PictureProvider::name(), new gallery::PictureProvider(limits));
+        addImageProvider(gallery::PictureProvider::name(), m_provider);
     }
+
+    const gallery::PictureProvider *provider() const { return m_provider; }
+
+private:
+    gallery::PictureProvider *m_provider; // the engine's
 };
 
 /*! A picture that is asked for as a tile does: asynchronously, not kept. Taken back when this goes. */
