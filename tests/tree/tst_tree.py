@@ -231,6 +231,23 @@ class Tree(unittest.TestCase):
                 without.append(folder)
         self.assertEqual(without, [])
 
+    # docs/themes.md sends designers there.
+    def test_every_field_of_a_style_says_what_it_does(self):
+        silent = []
+        for path in sorted((SOURCE / "platform/design/design_system").glob("*.h")):
+            if path.name.startswith("theme"):  # their reader
+                continue
+            lines = path.read_text("utf-8").splitlines()
+            fields = re.findall(r"Q_PROPERTY\(.* MEMBER (\w+)", "\n".join(lines))
+            for number, line in enumerate(lines):
+                field = re.match(r"    ([\w:]+) (\w+)( = [^;]+)?;", line)
+                if field is None or (field[2] not in fields and not field[1].endswith("Group")):
+                    continue
+                before = [text.strip() for text in lines[number - 3:number]]
+                if not ("//!<" in line or before[-1].startswith("//!") or "next three" in "".join(before)):
+                    silent.append(f"{path.name}: {field[2]}")
+        self.assertEqual(silent, [])
+
     def test_the_qmldir_has_the_expected_lines(self):
         lines = (QML / "Stbui/UI/Qml/Controls/Basic/qmldir").read_text("utf-8").splitlines()
         if lines[-1] == "":  # Qt's template ends the file with an empty line

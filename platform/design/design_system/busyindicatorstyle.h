@@ -9,7 +9,7 @@
 
 namespace design_system {
 
-/*! The look of a busy indicator. Lengths are pixels. */
+/*! The look of BusyIndicator. Lengths are pixels; a new object's are 0 and its colours invalid. */
 class STBDESIGN_EXPORT BusyIndicatorQmlStyle : public QObject
 {
     Q_OBJECT
@@ -31,11 +31,11 @@ Q_SIGNALS:
     void penWidthChanged();
 
 private:
-    TextGroup m_header;
-    TextGroup m_description;
+    TextGroup m_header; //!< the line below the circle
+    TextGroup m_description; //!< the text below the header
     int m_width = 0; //!< of the turning circle
     int m_height = 0; //!< of the turning circle
-    int m_penWidth = 0; //!< of the turning circle
+    int m_penWidth = 0; //!< thickness of the turning circle's line
 };
 
 } // namespace design_system

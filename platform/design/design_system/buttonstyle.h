@@ -8,7 +8,7 @@
 
 namespace design_system {
 
-/*! The look of a push button. The colours of the two lines are titleStyle.colors and subtitleStyle.colors. */
+/*! The look of Button and ButtonWithCheckIndicator; the indicator is of the latter. Pixels; 0 when new. */
 struct STBDESIGN_EXPORT QmlButtonStyle
 {
     Q_GADGET
@@ -36,16 +36,16 @@ public:
     int iconTopOffset = 0; //!< top of the right icon in a button of fixed width
     int rightPadding = 0; //!< right of the content of a button that grows with its text
     int iconSpacing = 0; //!< between an icon and the text column
-    StatesColors backgroundColors;
+    StatesColors backgroundColors; //!< fill of the button
     StatesColors leftIconColors; //!< tint of the left icon
     StatesColors rightIconColors; //!< tint of the right icon
     int textMarginLeft = 0; //!< inside the text column
     int textMarginRight = 0; //!< inside the text column
     int titleSubtitleSpacing = 0; //!< vertical gap between the two lines
-    TextStyle titleStyle;
-    TextStyle subtitleStyle;
+    TextStyle titleStyle; //!< the main line; of its colours those by state (colors)
+    TextStyle subtitleStyle; //!< the line below it; of its colours those by state (colors)
     QRect checkIndicatorSize; //!< width and height of the check indicator
-    QColor checkIndicatorColor;
+    QColor checkIndicatorColor; //!< fill of the check indicator
     int checkIndicatorLeft = 0; //!< x of the check indicator in the button
     int checkIndicatorBottomMargin = 0; //!< from the button's bottom edge to the indicator's
 

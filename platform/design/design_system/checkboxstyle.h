@@ -11,7 +11,7 @@
 
 namespace design_system {
 
-/*! The look of a check box and of a radio button. Lengths are pixels. */
+/*! The look of CheckBox and RadioButton. Lengths are pixels; a new object's are 0 and its colours invalid. */
 class STBDESIGN_EXPORT CheckBoxQmlStyle : public QObject
 {
     Q_OBJECT
@@ -42,13 +42,13 @@ Q_SIGNALS:
     void titleStatesChanged();
 
 private:
-    int m_roundingRadius = 0;
-    CheckBoxIconGroup m_icon;
-    FontGroup m_title;
-    int m_spacing = 0; //!< between indicator and title
-    StatesColors m_indicator;
-    StatesColors m_iconStates;
-    StatesColors m_titleStates;
+    int m_roundingRadius = 0; //!< of the box's corners where rounding is on; RadioButton is always round
+    CheckBoxIconGroup m_icon; //!< the mark; the box is as large. RadioButton has another mark
+    FontGroup m_title; //!< font of the title
+    int m_spacing = 0; //!< between box and title
+    StatesColors m_indicator; //!< fill of the box
+    StatesColors m_iconStates; //!< tint of the mark
+    StatesColors m_titleStates; //!< text of the title
 };
 
 } // namespace design_system

@@ -9,7 +9,7 @@
 
 namespace design_system {
 
-/*! The look of the on-screen keyboard. Lengths are pixels. */
+/*! The measures of Keyboard in pixels, 0 when new. Its colours and fonts are the theme's own. */
 class STBDESIGN_EXPORT KeyboardQmlStyle : public QObject
 {
     Q_OBJECT
@@ -28,10 +28,10 @@ Q_SIGNALS:
     void keyWidthChanged();
 
 private:
-    int m_keyRoundingRadius = 0;
+    int m_keyRoundingRadius = 0; //!< of the keys' corners where rounding is on
     int m_keySpacing = 0; //!< between rows and between columns
-    int m_keyHeight = 0;
-    int m_keyWidth = 0;
+    int m_keyHeight = 0; //!< of each key
+    int m_keyWidth = 0; //!< of a key of one column; a wider one also takes the spacing between its columns
 };
 
 } // namespace design_system

@@ -9,7 +9,7 @@
 
 namespace design_system {
 
-/*! The measures of a screen, in pixels. */
+/*! The measures of a screen, in pixels; those of views are for MediaListView and MediaGridView. */
 class STBDESIGN_EXPORT Layouts : public QObject
 {
     Q_OBJECT
@@ -32,8 +32,8 @@ Q_SIGNALS:
     void viewRightMarginChanged();
 
 private:
-    int m_screenWidth = 0;
-    int m_screenHeight = 0;
+    int m_screenWidth = 0; //!< of the whole screen; MediaBlock is as wide
+    int m_screenHeight = 0; //!< of the whole screen
     int m_viewHorizontalSpacing = 0; //!< between the columns of a grid or list
     int m_viewVerticalSpacing = 0; //!< between the rows of a grid
     int m_viewLeftMargin = 0; //!< the left safe area

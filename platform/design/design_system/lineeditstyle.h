@@ -12,7 +12,7 @@
 
 namespace design_system {
 
-/*! The look of a line of text input. Lengths are pixels. */
+/*! The look of LineEdit. Lengths are pixels; a new object's are 0 and its colours invalid. */
 class STBDESIGN_EXPORT LineEditQmlStyle : public QObject
 {
     Q_OBJECT
@@ -52,18 +52,18 @@ Q_SIGNALS:
     void placeholderChanged();
 
 private:
-    int m_roundingRadius = 0;
-    int m_errorFrameWidth = 0;
-    QColor m_errorFrameColor;
-    QFont m_font;
-    int m_marginLeft = 0;
+    int m_roundingRadius = 0; //!< of the background's corners where rounding is on
+    int m_errorFrameWidth = 0; //!< of the frame while there is an error
+    QColor m_errorFrameColor; //!< of the frame while there is an error
+    QFont m_font; //!< of the text and of the placeholder
+    int m_marginLeft = 0; //!< this and the next three: between the edge and the text
     int m_marginTop = 0;
     int m_marginRight = 0;
     int m_marginBottom = 0;
-    int m_cursorWidth = 0;
-    StatesColors m_background;
-    StatesColors m_text;
-    StatesColors m_placeholder;
+    int m_cursorWidth = 0; //!< of the cursor, which has the colour of the text
+    StatesColors m_background; //!< fill; also the text of a selection
+    StatesColors m_text; //!< text, cursor and fill of a selection
+    StatesColors m_placeholder; //!< what stands there while there is no text
 };
 
 } // namespace design_system

@@ -9,7 +9,7 @@
 
 namespace design_system {
 
-/*! The measures of the main menu, in pixels. */
+/*! The measures of the main menu, in pixels, for MainMenuEffect. */
 class STBDESIGN_EXPORT MainMenu : public QObject
 {
     Q_OBJECT

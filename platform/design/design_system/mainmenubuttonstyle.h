@@ -11,7 +11,7 @@
 
 namespace design_system {
 
-/*! The look of a button of the main menu. Lengths are pixels. */
+/*! The look of MainMenuButton. Lengths are pixels; a new object's are 0 and its colours invalid. */
 class STBDESIGN_EXPORT MainMenuButtonQmlStyle : public QObject
 {
     Q_OBJECT
@@ -59,22 +59,22 @@ Q_SIGNALS:
     void checkedRoundingRadiusChanged();
 
 private:
-    int m_backgroundCheckedHeight = 0;
-    int m_backgroundFocusedHeight = 0;
-    QColor m_normalBackgroundColor;
-    QColor m_checkedBackgroundColor;
-    QColor m_focusedBackgroundColor;
-    FontGroup m_text;
-    QColor m_normalTextColor;
-    QColor m_checkedTextColor;
-    QColor m_focusedTextColor;
-    QRect m_decorationGeometry; //!< width and height are those of the icons
-    int m_leftPadding = 0;
+    int m_backgroundCheckedHeight = 0; //!< of the button, and of its background unless it is focused
+    int m_backgroundFocusedHeight = 0; //!< of the focused background, which may be higher than the button
+    QColor m_normalBackgroundColor; //!< fill of an entry
+    QColor m_checkedBackgroundColor; //!< fill of the present entry
+    QColor m_focusedBackgroundColor; //!< fill of the entry that has the focus
+    FontGroup m_text; //!< font of the text
+    QColor m_normalTextColor; //!< text and left icon of an entry
+    QColor m_checkedTextColor; //!< text and left icon of the present entry
+    QColor m_focusedTextColor; //!< text and left icon of the entry that has the focus
+    QRect m_decorationGeometry; //!< width and height are those of both icons
+    int m_leftPadding = 0; //!< this and the next three: between the edge and the icons and text
     int m_rightPadding = 0;
     int m_topPadding = 0;
     int m_bottomPadding = 0;
-    int m_focusedRoundingRadius = 0;
-    int m_checkedRoundingRadius = 0;
+    int m_focusedRoundingRadius = 0; //!< with the focus; whether or not rounding is switched on
+    int m_checkedRoundingRadius = 0; //!< without it; whether or not rounding is switched on
 };
 
 } // namespace design_system

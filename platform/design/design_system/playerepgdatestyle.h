@@ -8,7 +8,7 @@
 
 namespace design_system {
 
-/*! The look of a day in the programme guide's row of days. */
+/*! The look of EpgDate, a day in the programme guide's row of days. Colours are invalid when new. */
 struct STBDESIGN_EXPORT PlayerEpgDateStyle
 {
     Q_GADGET
@@ -19,9 +19,9 @@ struct STBDESIGN_EXPORT PlayerEpgDateStyle
     Q_PROPERTY(QColor dayInactiveColor MEMBER dayInactiveColor)
     QML_ANONYMOUS
 public:
-    TextStyle monthStyle;
-    QColor monthColor;
-    TextStyle dayStyle;
+    TextStyle monthStyle; //!< the month; its colour is the next field's
+    QColor monthColor; //!< the month of any day
+    TextStyle dayStyle; //!< the day of the month; its colour is one of the next two
     QColor dayActiveColor; //!< the chosen day
     QColor dayInactiveColor; //!< any other day
 

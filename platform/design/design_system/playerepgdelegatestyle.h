@@ -8,7 +8,7 @@
 
 namespace design_system {
 
-/*! The look of a row of the programme guide, resting and focused. */
+/*! The look of EpgViewDelegate and, with the card, of EpgViewDelegateFocused. Pixels; 0 when new. */
 struct STBDESIGN_EXPORT PlayerEpgDelegateStyle
 {
     Q_GADGET
@@ -53,19 +53,19 @@ public:
     TextStyle reminderActionTextStyle; //!< action bar at the card's bottom; its height is the rectangle's
     QColor playIconColor; //!< tint of the play icon
     QRect progressBarRect; //!< left: inset from the card's left, right and bottom; height: the bar's
-    QColor progressRemainderColor;
-    QColor progressPlayedColor;
+    QColor progressRemainderColor; //!< of the bar: what is still to come
+    QColor progressPlayedColor; //!< of the bar: what has been on air
     int focusedTitleMaxLineCount = 0; //!< lines of the title in the focused row
-    QColor liveBadgeColor;
+    QColor liveBadgeColor; //!< fill of the badge of the programme on air
     int liveBadgeTopMargin = 0; //!< above the badge of a resting row
     int liveBadgeBottomSpacing = 0; //!< below the badge of a resting row
     int liveBadgeTopMarginExtended = 0; //!< above the badge of a focused row
     int liveBadgeBottomSpacingExtended = 0; //!< below the badge of a focused row
     int liveBadgePadding = 0; //!< inside the badge, on all sides
     int liveBadgeIconSpacing = 0; //!< between the badge's icon and its text
-    TextStyle liveTextStyle;
-    TextStyle titleTextStyle;
-    TextStyle subtitleTextStyle;
+    TextStyle liveTextStyle; //!< the badge's text, in its color
+    TextStyle titleTextStyle; //!< the title; its colour is one of the last two
+    TextStyle subtitleTextStyle; //!< the line below the title, in its color
     QColor liveStartTimeColor; //!< start time of the programme on air
     QColor unavailableTextColor; //!< start time and title of what cannot be played
     QColor playableTextColor; //!< start time and title of what can be played

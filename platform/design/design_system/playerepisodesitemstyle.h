@@ -9,7 +9,7 @@
 
 namespace design_system {
 
-/*! The look of an episode in a series' list. */
+/*! The look of EpisodesViewDelegate, an episode in a series' list. Lengths are pixels; 0 when new. */
 struct STBDESIGN_EXPORT PlayerEpisodesItemStyle
 {
     Q_GADGET
@@ -47,14 +47,14 @@ public:
     TextStyle dateLowerTextStyle; //!< second line of a coming episode's date
     QRect textAreaRect; //!< its width bounds title and subtitle
     int textLeftSpacing = 0; //!< between the tile and the texts
-    int titleSubtitleSpacing = 0;
-    TextStyle titleTextStyle;
-    TextStyle subtitleTextStyle;
+    int titleSubtitleSpacing = 0; //!< vertical gap between title and subtitle
+    TextStyle titleTextStyle; //!< the first line beside the tile
+    TextStyle subtitleTextStyle; //!< the line below the title
     QColor comingSoonTextColor; //!< title and subtitle of a coming episode
-    QSize playIconSize;
+    QSize playIconSize; //!< of the icon in the middle of the tile
     QRect progressBarRect; //!< its height is the bar's
-    QColor progressRemainingColor;
-    QColor progressViewedColor;
+    QColor progressRemainingColor; //!< of the bar: what is not viewed yet
+    QColor progressViewedColor; //!< of the bar: what has been viewed
 
     bool operator==(const PlayerEpisodesItemStyle &) const = default;
 };

@@ -8,7 +8,7 @@
 
 namespace design_system {
 
-/*! The look of a programme in the player's horizontal list. */
+/*! The look of HorizontalEpgViewDelegate, a programme in the player's list. Pixels; 0 when new. */
 struct STBDESIGN_EXPORT PlayerHorizontalEpgViewStyle
 {
     Q_GADGET
@@ -29,18 +29,18 @@ struct STBDESIGN_EXPORT PlayerHorizontalEpgViewStyle
     QML_ANONYMOUS
 public:
     QRect delegateRect; //!< its width bounds picture and texts
-    QColor backgroundColor;
+    QColor backgroundColor; //!< behind picture and texts
     int leftPadding = 0; //!< left of the picture
     int rightPadding = 0; //!< right of the texts
     int imageTextSpacing = 0; //!< between picture and texts
     QRect imageRect; //!< width and height of the picture
-    TextStyle dateStyle;
-    QColor dateColor;
-    TextStyle titleStyle;
-    QColor titleColor;
+    TextStyle dateStyle; //!< the first line; its colour is the next field's
+    QColor dateColor; //!< of the date
+    TextStyle titleStyle; //!< below the date; its colour is the next field's
+    QColor titleColor; //!< of the title
     int dateTitleGap = 0; //!< below the date
-    TextStyle descriptionStyle;
-    QColor descriptionColor;
+    TextStyle descriptionStyle; //!< below the title; its colour is the next field's
+    QColor descriptionColor; //!< of the description
     int titleDescriptionGap = 0; //!< below the title
 
     bool operator==(const PlayerHorizontalEpgViewStyle &) const = default;

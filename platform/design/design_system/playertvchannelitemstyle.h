@@ -8,7 +8,7 @@
 
 namespace design_system {
 
-/*! The look of a row of the list of channels. */
+/*! The look of TvChannelViewDelegate, a row of the list of channels. Lengths are pixels; 0 when new. */
 struct STBDESIGN_EXPORT PlayerTvChannelItemStyle
 {
     Q_GADGET
@@ -44,13 +44,13 @@ public:
     int programNameSpacing = 0; //!< above the programme's name
     int nameQualitySpacing = 0; //!< between quality badge and channel name
     TextStyle qualityTextStyle; //!< background and paddings make the badge
-    TextStyle channelNameTextStyle;
-    TextStyle programNameTextStyle;
+    TextStyle channelNameTextStyle; //!< the name; its colour counts where the control is given none
+    TextStyle programNameTextStyle; //!< what is on, below the name
     TextStyle playingTextStyle; //!< its colour also tints the icon
     int playingIconSpacing = 0; //!< between the mark's icon and text
     QRect progressBarRect; //!< left: the bar's left margin; height: the bar's
-    QColor progressRemainderColor;
-    QColor progressPlayedColor;
+    QColor progressRemainderColor; //!< of the bar: what is still to come
+    QColor progressPlayedColor; //!< of the bar: what has been on air
 
     bool operator==(const PlayerTvChannelItemStyle &) const = default;
 };

@@ -17,7 +17,7 @@ namespace design_system {
 */
 using ColorList = QList<QColor>;
 
-/*! Four colours, one for each state of a control. */
+/*! Four colours, one for each state of a control. All are invalid when new. */
 struct STBDESIGN_EXPORT StatesColors
 {
     Q_GADGET
@@ -27,10 +27,10 @@ struct STBDESIGN_EXPORT StatesColors
     Q_PROPERTY(QColor focused MEMBER focused)
     QML_ANONYMOUS
 public:
-    QColor normal;
-    QColor checked;
-    QColor disabled;
-    QColor focused;
+    QColor normal; //!< in none of the other states
+    QColor checked; //!< chosen, or switched on
+    QColor disabled; //!< what cannot be used
+    QColor focused; //!< what has the focus
 
     /*! The colours in the order normal, checked, disabled, focused. */
     ColorList toList() const { return { normal, checked, disabled, focused }; }

@@ -26,7 +26,7 @@ Q_SIGNALS:
     void fontChanged();
 
 private:
-    QFont m_font;
+    QFont m_font; //!< of the text; the application's font when new
 };
 
 /*! A group of a style that describes a line of text; the margins are pixels. */
@@ -47,9 +47,9 @@ Q_SIGNALS:
     void marginRightChanged();
 
 private:
-    QColor m_color;
-    int m_marginLeft = 0;
-    int m_marginRight = 0;
+    QColor m_color; //!< of the text
+    int m_marginLeft = 0; //!< from the left edge of the control
+    int m_marginRight = 0; //!< from the right edge of the control
 };
 
 /*! A group of a style that describes an icon: where its picture is and how large it is shown, in pixels. */
@@ -77,8 +77,8 @@ Q_SIGNALS:
     void sizeChanged();
 
 private:
-    QString m_path;
-    QSize m_size = QSize(0, 0);
+    QString m_path; //!< a file, or a resource as ":/..." or "qrc:/..."; none when new
+    QSize m_size = QSize(0, 0); //!< of the picture as it is shown; width and height are its sides
 };
 
 } // namespace design_system

@@ -12,7 +12,7 @@
 
 namespace design_system {
 
-/*! The look of a tab. Lengths are pixels. */
+/*! The look of TabButton. Lengths are pixels; a new object's are 0 and its colours invalid. */
 class STBDESIGN_EXPORT TabButtonQmlStyle : public QObject
 {
     Q_OBJECT
@@ -51,19 +51,19 @@ Q_SIGNALS:
     void fontChanged();
 
 private:
-    QColor m_backgroundNormalColor;
-    QColor m_backgroundFocusedColor;
-    QColor m_backgroundSelectedColor;
-    QColor m_textNormalColor;
-    QColor m_textFocusedColor;
-    QColor m_textSelectedColor;
-    int m_marginTop = 0;
+    QColor m_backgroundNormalColor; //!< fill of a tab
+    QColor m_backgroundFocusedColor; //!< fill of the tab that has the focus
+    QColor m_backgroundSelectedColor; //!< fill of the selected tab without the focus
+    QColor m_textNormalColor; //!< text and icon of a tab
+    QColor m_textFocusedColor; //!< text and icon of the tab that has the focus
+    QColor m_textSelectedColor; //!< text and icon of the selected tab without the focus
+    int m_marginTop = 0; //!< this and the next three: between the edge and the icon and text
     int m_marginBottom = 0;
     int m_marginLeft = 0;
     int m_marginRight = 0;
-    int m_roundingRadius = 0;
-    QSize m_minSize; //!< the smallest tab
-    QFont m_font;
+    int m_roundingRadius = 0; //!< of the background's corners where rounding is on
+    QSize m_minSize; //!< the smallest tab; one grows with its text
+    QFont m_font; //!< of the text
 };
 
 } // namespace design_system

@@ -9,7 +9,7 @@
 
 namespace design_system {
 
-/*! The look of one text of a control. A control reads either color or colors, and says which. */
+/*! The look of one text. A control reads either color or colors, and says which. Pixels; 0 when new. */
 struct STBDESIGN_EXPORT TextStyle
 {
     Q_GADGET
@@ -29,9 +29,9 @@ struct STBDESIGN_EXPORT TextStyle
 public:
     QRect rect; //!< its width bounds the text where the control says so
     QColor backgroundColor; //!< of the badge around the text, where there is one
-    QFont font;
+    QFont font; //!< of the text
     int maxLineCount = 0; //!< below 1 counts as 1
-    Qt::Alignment alignment;
+    Qt::Alignment alignment; //!< where the text stands in its rectangle
     QColor color; //!< of the text, where it has one colour
     StatesColors colors; //!< of the text, where it depends on the state
     int leftPadding = 0; //!< this and the next three: inside the badge around the text

@@ -11,7 +11,7 @@
 
 namespace design_system {
 
-/*! The look of the tiles of a media grid: picture, caption and the marks of video on demand. */
+/*! The look of ExpandableTile; captions are of ContentTile, ratings, logos and bars of VodTile. Pixels. */
 struct STBDESIGN_EXPORT TileStyle
 {
     Q_GADGET
@@ -58,13 +58,13 @@ public:
     QPen borderPen = QPen(QBrush(QColor()), 0);
     QColor favouriteIconColor; //!< tint of the favourite mark
     int captionSpacing = 0; //!< below the picture, beside the mark and between the lines
-    TextStyle titleStyle;
-    QColor titleColor;
-    TextStyle subtitleStyle;
-    QColor subtitleColor;
-    TextStyle statusStyle;
-    QColor statusColor;
-    TextStyle ratingStyle;
+    TextStyle titleStyle; //!< the first line below the picture
+    QColor titleColor; //!< of the title
+    TextStyle subtitleStyle; //!< the line below the title
+    QColor subtitleColor; //!< of the subtitle
+    TextStyle statusStyle; //!< the line below the subtitle
+    QColor statusColor; //!< of the status
+    TextStyle ratingStyle; //!< text of the rating badge
     QColor ratingColor; //!< text of the rating badge
     QColor ratingBadgeColor; //!< fill of the rating badge
     QPoint ratingBadgeOffset; //!< from the picture's top left corner
