@@ -2,6 +2,7 @@
 import Stbui.UI.Qml.Controls.Generic as STBUIQCG
 import Stbui.UI.Qml.Design as STBUIQD
 
+// Tells that a long operation is under way: a turning circle with a header and a description.
 STBUIQCG.BusyIndicator {
     id: _busyindicator
 

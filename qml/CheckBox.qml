@@ -3,6 +3,7 @@ import Stbui.UI.Qml.Controls.Basic as STBUIQCB
 import Stbui.UI.Qml.Controls.Generic as STBUIQCG
 import Stbui.UI.Qml.Design as STBUIQD
 
+// A box that OK checks and unchecks, with a title beside it, in the look of "style".
 STBUIQCG.CheckBox {
     id: _checkBox
 

@@ -3,6 +3,7 @@ import Stbui.UI.Qml.Controls.Basic as STBUIQCB
 import Stbui.UI.Qml.Controls.Generic as STBUIQCG
 import Stbui.UI.Qml.Design as STBUIQD
 
+// The on-screen keyboard. Its sizes come from "style", its colours and fonts from the theme itself.
 STBUIQCG.Keyboard {
     id: _keyboard
 

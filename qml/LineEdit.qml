@@ -3,6 +3,7 @@ import Stbui.UI.Qml.Controls.Basic as STBUIQCB
 import Stbui.UI.Qml.Controls.Generic as STBUIQCG
 import Stbui.UI.Qml.Design as STBUIQD
 
+// A line of text input with placeholder, cursor and error frame, in the look of "style".
 STBUIQCG.LineEdit {
     id: _lineEdit
 

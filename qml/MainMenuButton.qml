@@ -3,6 +3,7 @@ import QtQuick
 import Stbui.UI.Qml.Controls.Generic as STBUIQCG
 import Stbui.UI.Qml.Design as STBUIQD
 
+// An entry of the main menu. Whoever owns the menu sets its state: "focused", "checked" or "normal".
 STBUIQCG.MainMenuButton {
     id: _button
 

@@ -2,6 +2,7 @@
 import Stbui.UI.Qml.Controls.Generic as STBUIQCG
 import Stbui.UI.Qml.Design as STBUIQD
 
+// A grid of tiles that scrolls up and down, with the spacing and margins of the screen.
 STBUIQCG.ScrolledGridView {
     id: _mediaGridView
 

@@ -4,6 +4,7 @@ import Stbui.UI.Qml.Controls.Basic as STBUIQCB
 import Stbui.UI.Qml.Controls.Generic as STBUIQCG
 import Stbui.UI.Qml.Design as STBUIQD
 
+// A row of tiles that scrolls sideways, with the spacing and margins of the screen.
 STBUIQCG.ScrolledListView {
     id: _mediaListView
 

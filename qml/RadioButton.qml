@@ -2,6 +2,7 @@
 import Stbui.UI.Qml.Controls.Basic as STBUIQCB
 import Stbui.UI.Qml.Design as STBUIQD
 
+// A check box that is always round: OK checks it, alone among its siblings.
 STBUIQCB.CheckBox {
     id: _radioButton
 

@@ -3,6 +3,7 @@ import Stbui.UI.Qml.Controls.Basic as STBUIQCB
 import Stbui.UI.Qml.Controls.Generic as STBUIQCG
 import Stbui.UI.Qml.Design as STBUIQD
 
+// A tab: OK selects it, alone among its siblings, in the look of "style".
 STBUIQCG.TabButton {
     id: _button
 
