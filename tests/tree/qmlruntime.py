@@ -2,7 +2,7 @@
 """Runs Qt's plain qml runtime on a document and checks how it ends and what it prints.
 
 qmlruntime.py --runtime PROGRAM [-I FOLDER]... [--library-path FOLDER] [--preload FILE]
-              [--message REGEX]... [--fails] (--document TEXT | --readme FILE)
+              [--message REGEX]... [--fails] (--document TEXT | --readme FILE [--example NUMBER])
 
 The document must end the runtime itself. Standard output and error hold exactly the lines that match the
 expected messages, one each, in this order; with --fails the runtime ends with an error, else with 0.
@@ -46,18 +46,18 @@ def environment(options):
     return kept
 
 
-def readme_example(readme):
+def readme_example(readme, number):
     blocks = re.findall(r"^```qml\n(.*?)^```$", pathlib.Path(readme).read_text("utf-8"), re.S | re.M)
-    if len(blocks) != 1:
-        sys.exit(f"{readme} has {len(blocks)} QML examples; expected one")
-    return blocks[0]
+    if len(blocks) < number:
+        sys.exit(f"{readme} has {len(blocks)} QML examples; expected {number} or more")
+    return blocks[number - 1]
 
 
 def write_document(options):
     folder = pathlib.Path(options.folder)
     main = folder / "main.qml"
     if options.readme:
-        (folder / "Example.qml").write_text(readme_example(options.readme), "utf-8")
+        (folder / "Example.qml").write_text(readme_example(options.readme, options.example), "utf-8")
         main.write_text(WRAPPER, "utf-8")
     else:
         main.write_text(options.document, "utf-8")
@@ -88,6 +88,7 @@ def main():
     source = parser.add_mutually_exclusive_group(required=True)
     source.add_argument("--document")
     source.add_argument("--readme")
+    parser.add_argument("--example", type=int, default=1, metavar="NUMBER", help="of the README's examples")
     options = parser.parse_args()
     with tempfile.TemporaryDirectory() as options.folder:
         command = [options.runtime, *(word for path in options.imports for word in ("-I", path))]
