@@ -3,7 +3,7 @@ import QtQuick
 import Stbui.UI.Qml.Controls.Generic
 
 // Tells that a long operation is under way: a turning arc with a header and a description below it, in the middle
-// of the item. When it does not run, nothing is to be seen.
+// of the item. When it does not run, nothing is to be seen. Lengths are pixels.
 Item {
     id: control
 

@@ -5,7 +5,8 @@ import Stbui.UI.Qml.Controls.Generic
 
 // A check box, and with forceRounding a radio button: round, and exclusive among the buttons of its parent (or of
 // its ButtonGroup). The mark is there when the box is checked. The colours follow the state, checked before
-// focused; so that a checked box shows the focus too, its indicator then has a frame in the focused colour.
+// focused; so that a checked box shows the focus too, its indicator then has a frame in the focused colour. Lengths
+// are pixels.
 T.AbstractButton { // the template's CheckBox does not know autoExclusive
     id: control
 

@@ -4,7 +4,7 @@ import Stbui.UI.Qml.Controls.Generic
 
 // A line of text input. A real keyboard writes while it has the focus, an on-screen keyboard through its
 // functions, with the focus elsewhere; "editing" then shows the cursor and the focused colours all the same.
-// OK emits accepted(); left and right leave it at the ends of the text.
+// OK emits accepted(); left and right leave it at the ends of the text. Lengths are pixels.
 FocusScope {
     id: control
 

@@ -4,7 +4,8 @@ import Stbui.UI.Qml.Controls.Generic
 
 // An entry of the main menu: a picture in the text's colour, a text, and a picture in colours of its own (such as
 // a portrait). Whoever owns the menu says which entry is checked; OK only emits clicked(). The background may be
-// higher than the button, which keeps its place. A button that is switched off is half transparent.
+// higher than the button, which keeps its place. A button that is switched off is half transparent. Lengths are
+// pixels.
 Pressable {
     id: control
 

@@ -4,7 +4,7 @@ import Stbui.UI.Qml.Controls.Generic
 
 // A title above content, such as a row of tiles. The items declared in it are the content. It is a focus scope
 // that remembers which of them had the focus; at first, and when that one cannot have it, it is the first one
-// that can.
+// that can. Lengths are pixels.
 FocusMemory {
     id: control
 

@@ -7,6 +7,7 @@ import Stbui.UI.Qml.Controls.Generic
 // that is held, goes on by one item; the current item stays in view and within the margins. Delegates are of the
 // size itemWidth x itemHeight; spacing comes between them and takes no room at the end of a row.
 // highlightMoveDuration is about how long the view takes to follow by a step (milliseconds; 0 follows at once).
+// Lengths are pixels.
 //
 // Delegates see the attached properties of a GridView. They are used again for other items (reuseItems); switch
 // that off for a delegate that keeps what it was given first. No items are made ahead of need: those cost the

@@ -4,7 +4,7 @@ import QtQuick.Templates as T
 import Stbui.UI.Qml.Controls.Generic
 
 // A tab: OK selects it, alone among the tabs of its parent. The focus is shown before the selection. A tab that is
-// switched off is half transparent.
+// switched off is half transparent. Lengths are pixels.
 T.TabButton {
     id: control
 

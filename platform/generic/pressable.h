@@ -16,6 +16,7 @@ namespace stbgeneric {
 class Pressable : public QQuickItem
 {
     Q_OBJECT
+    /*! Whether a key or the mouse button is held on the item. */
     Q_PROPERTY(bool pressed READ isPressed NOTIFY pressedChanged)
     QML_ELEMENT
 public:
@@ -25,6 +26,7 @@ public:
 
 Q_SIGNALS:
     void pressedChanged();
+    /*! A press that began on the item was released on it. pressed is false by then. */
     void clicked();
 
 protected:
