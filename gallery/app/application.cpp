@@ -134,8 +134,11 @@ void Application::setUpConfiguration()
 
 void Application::setUpView()
 {
+    QList<QUrl> screens;
+    for (const QString &name : screenNames())
+        screens.append(QUrl(u"qrc:/Gallery/%1Screen.qml"_s.arg(name.first(1).toUpper() + name.sliced(1))));
     m_view = std::make_unique<ScreenWindow>(QUrl(u"qrc:/Gallery/Shell.qml"_s),
-                                            moduleFolders() + QStringList { u"qrc:/"_s });
+                                            moduleFolders() + QStringList { u"qrc:/"_s }, screens);
     m_view->setTitle(QCoreApplication::applicationName());
     const auto mirror = [this] {
         m_shell->setMirrored(QGuiApplication::layoutDirection() == Qt::RightToLeft);

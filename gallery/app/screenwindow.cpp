@@ -11,10 +11,12 @@ using namespace Qt::StringLiterals;
 
 namespace gallery {
 
-ScreenWindow::ScreenWindow(const QUrl &source, const QStringList &importPaths)
+ScreenWindow::ScreenWindow(const QUrl &source, const QStringList &importPaths, const QList<QUrl> &later)
     : m_source(source)
     , m_importPaths(importPaths)
+    , m_later(later)
 {
+    connect(this, &QQuickWindow::frameSwapped, this, &ScreenWindow::readDocuments);
 }
 
 ScreenWindow::~ScreenWindow() = default;
@@ -54,7 +56,17 @@ void ScreenWindow::clear()
     // the next engine that wants the same picture would wait for it forever.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     m_pictures = nullptr;
+    m_documents.clear();
     m_engine.reset();
+}
+
+void ScreenWindow::readDocuments()
+{
+    if (m_root == nullptr || !m_documents.empty())
+        return;
+    for (const QUrl &document : std::as_const(m_later))
+        m_documents.push_back(
+                std::make_unique<QQmlComponent>(m_engine.get(), document, QQmlComponent::Asynchronous));
 }
 
 int ScreenWindow::pendingPictures() const

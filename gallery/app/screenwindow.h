@@ -8,7 +8,9 @@
 #include <QtQuick/qquickwindow.h>
 
 #include <memory>
+#include <vector>
 
+class QQmlComponent;
 class QQmlEngine;
 
 namespace gallery {
@@ -24,8 +26,12 @@ class ScreenWindow : public QQuickWindow
 {
     Q_OBJECT
 public:
-    /*! \a source is the document of the root item; modules are found in \a importPaths too. Nothing is made yet. */
-    ScreenWindow(const QUrl &source, const QStringList &importPaths);
+    /*!
+        \a source is the document of the root item; modules are found in \a importPaths too. Nothing is made yet. The
+        documents \a later are what the root item may load: they are read outside the GUI thread once there is a
+        first frame, so that it need not wait for them, and what they are wanted for neither.
+    */
+    ScreenWindow(const QUrl &source, const QStringList &importPaths, const QList<QUrl> &later = {});
     ~ScreenWindow() override;
 
     /*!
@@ -42,16 +48,21 @@ public:
     QQmlEngine *engine() const { return m_engine.get(); }
     /*! How many pictures are on their way to the screens. */
     int pendingPictures() const;
+    /*! How many of the documents for later are being read, or are read. 0 before the first frame. */
+    int documentCount() const { return int(m_documents.size()); }
 
 private:
     void makeEngine();
+    void readDocuments();
     bool fail(const QString &error);
     void takeSize();
 
     QUrl m_source;
     QStringList m_importPaths;
+    QList<QUrl> m_later;
     QString m_error;
     std::unique_ptr<QQmlEngine> m_engine;
+    std::vector<std::unique_ptr<QQmlComponent>> m_documents; // go before the engine
     PictureProvider *m_pictures = nullptr; // the engine's
     std::unique_ptr<QQuickItem> m_root; // goes before the engine
 };

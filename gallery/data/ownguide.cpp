@@ -49,7 +49,7 @@ public:
         if (!logo.isEmpty())
             shown.icon = QUrl(QStringLiteral("qrc:/resources/pictures/%1.png").arg(logo));
         m_guide->addChannel(shown);
-        const std::vector<Start> starts = startsOf(channel[QLatin1String("day")].toArray());
+        const std::vector<Start> starts = startsOf(entriesOf(channel[QLatin1String("day")].toArray()));
         for (size_t i = 0; i + 1 < starts.size(); ++i) {
             const TimeSpan time { starts[i].time, starts[i + 1].time };
             if (time.stop > m_wanted.start && time.start < m_wanted.stop)
@@ -65,20 +65,35 @@ private:
         qint64 episode;
     };
 
+    /*! What is on at a time of each day. */
+    struct Entry
+    {
+        QTime time;
+        QString programme;
+    };
+
+    static std::vector<Entry> entriesOf(const QJsonArray &day)
+    {
+        std::vector<Entry> entries;
+        entries.reserve(size_t(day.size()));
+        for (const QJsonValue &entry : day)
+            entries.push_back({ QTime::fromString(entry[0].toString(), Qt::ISODate), entry[1].toString() });
+        return entries;
+    }
+
     // Two days more than wanted, because a programme of the day before may run over midnight, and the last
     // one ends where the next day's first one starts.
-    std::vector<Start> startsOf(const QJsonArray &day) const
+    std::vector<Start> startsOf(const std::vector<Entry> &day) const
     {
         std::vector<Start> starts;
         const QDate last = QDateTime::fromSecsSinceEpoch(m_wanted.stop).date();
         for (QDate date = QDateTime::fromSecsSinceEpoch(m_wanted.start).date().addDays(-1); date <= last;
              date = date.addDays(1)) {
             // The same date has the same episodes in a guide that begins on another day.
-            qint64 episode = date.toJulianDay() * (day.size() + 1);
-            for (const QJsonValue &entry : day) {
-                const QTime time = QTime::fromString(entry[0].toString(), QStringLiteral("HH:mm"));
-                starts.push_back({ QDateTime(date, time).toSecsSinceEpoch(), entry[1].toString(), episode++ });
-            }
+            qint64 episode = date.toJulianDay() * (qint64(day.size()) + 1);
+            for (const Entry &entry : day)
+                starts.push_back(
+                        { QDateTime(date, entry.time).toSecsSinceEpoch(), entry.programme, episode++ });
         }
         // When the clocks go forward, times that the day does not have come to lie after later ones.
         std::stable_sort(starts.begin(), starts.end(),

@@ -20,86 +20,56 @@ FocusScope {
         anchors.fill: parent
         color: Look.backdrop
     }
-    // With Qt 6.4 a component cannot say that it belongs where it stands; the linter asks for that.
-    // qmllint disable unqualified
     ScreenLoader {
         controller: shell.controller
         name: "home"
-        sourceComponent: HomeScreen {
-            home: shell.controller.home
-            menu: shell.controller.menu
-            guide: shell.controller.guide
-        }
+        values: ({ home: controller.home, menu: controller.menu, guide: controller.guide })
     }
     ScreenLoader {
         controller: shell.controller
         name: "detail"
-        sourceComponent: DetailScreen {
-            detail: shell.controller.detail
-        }
+        values: ({ detail: controller.detail })
     }
     ScreenLoader {
         controller: shell.controller
         name: "series"
-        sourceComponent: SeriesScreen {
-            series: shell.controller.series
-        }
+        values: ({ series: controller.series })
     }
     ScreenLoader {
         controller: shell.controller
         name: "player"
-        sourceComponent: PlayerScreen {
-            player: shell.controller.player
-        }
+        values: ({ player: controller.player })
     }
     ScreenLoader {
         controller: shell.controller
         name: "guide"
-        sourceComponent: GuideScreen {
-            guide: shell.controller.guide
-        }
+        values: ({ guide: controller.guide })
     }
     ScreenLoader {
         controller: shell.controller
         name: "channels"
-        sourceComponent: ChannelsScreen {
-            channels: shell.controller.channels
-            guide: shell.controller.guide
-        }
+        values: ({ channels: controller.channels, guide: controller.guide })
     }
     ScreenLoader {
         controller: shell.controller
         name: "search"
-        sourceComponent: SearchScreen {
-            search: shell.controller.search
-            guide: shell.controller.guide
-        }
+        values: ({ search: controller.search, guide: controller.guide })
     }
     ScreenLoader {
         controller: shell.controller
         name: "settings"
-        sourceComponent: SettingsScreen {
-            settings: shell.controller.settings
-            guide: shell.controller.guide
-        }
+        values: ({ settings: controller.settings, guide: controller.guide })
     }
     ScreenLoader {
         controller: shell.controller
         name: "components"
-        sourceComponent: ComponentsScreen {
-            components: shell.controller.components
-            guide: shell.controller.guide
-        }
+        values: ({ components: controller.components, guide: controller.guide })
     }
     ScreenLoader {
         controller: shell.controller
         name: "about"
-        sourceComponent: AboutScreen {
-            about: shell.controller.about
-            guide: shell.controller.guide
-        }
+        values: ({ about: controller.about, guide: controller.guide })
     }
-    // qmllint enable unqualified
     MenuOverlay {
         anchors.fill: parent
         visible: shell.controller.menu.open
