@@ -2,6 +2,7 @@
 #include "design_system/qmldesignsystem.h"
 
 #include "design_system/themereader.h"
+#include "design_system/themevalues.h"
 
 #include <QtCore/qdebug.h>
 #include <QtCore/qmetaobject.h>
@@ -72,6 +73,13 @@ QFont QmlDesignSystem::unscaledFont(int hdFont, int sdFont) const
 {
     const QString role = m_resolution == QLatin1String("sd") ? sdRoleName(sdFont) : hdRoleName(hdFont);
     return m_fonts.value(role.isEmpty() ? hdRoleName(FontHd::Body) : role);
+}
+
+QFont QmlDesignSystem::scaledFont(int hdFont, int sdFont) const
+{
+    QFont font = unscaledFont(hdFont, sdFont);
+    font.setPixelSize(scaledPixelSize(font.pixelSize(), m_textScale));
+    return font;
 }
 
 bool QmlDesignSystem::setTheme(const QString &path)

@@ -137,6 +137,12 @@ public:
     */
     Q_INVOKABLE QFont unscaledFont(int hdFont, int sdFont) const;
 
+    /*!
+        The same font with the user's text scale, as the fonts of the styles have it: for texts that an
+        application places beside them.
+    */
+    Q_INVOKABLE QFont scaledFont(int hdFont, int sdFont) const;
+
     /*! The path of the theme file; empty for the compiled-in theme. */
     Q_INVOKABLE QString theme() const { return m_theme; }
 

@@ -4,6 +4,7 @@
 
 #include <QtCore/qhash.h>
 #include <QtCore/qjsonvalue.h>
+#include <QtCore/qmath.h>
 #include <QtCore/qmetatype.h>
 #include <QtCore/qobject.h>
 #include <QtCore/qstringlist.h>
@@ -19,6 +20,12 @@ struct PixelSize
     int value = 0;
     bool operator==(const PixelSize &) const = default;
 };
+
+/*! A font's height with the user's text scale; never nothing. */
+inline int scaledPixelSize(int pixelSize, double textScale)
+{
+    return qMax(1, qRound(pixelSize * textScale));
+}
 
 /*! The keys of a font in a theme file. */
 struct FontKeys

@@ -183,7 +183,7 @@ QFont ThemeWriter::roleFont(const QJsonValue &role, const QString &path, const Q
         return current;
     }
     FontKeys keys = FontKeys::of(*found);
-    keys.pixelSize.value = qMax(1, qRound(keys.pixelSize.value * m_context.textScale));
+    keys.pixelSize.value = scaledPixelSize(keys.pixelSize.value, m_context.textScale);
     return keys.toFont();
 }
 

@@ -178,6 +178,29 @@ private Q_SLOTS:
         QCOMPARE(system.unscaledFont(FontHd::Body, FontSd::H5).pixelSize(), 24);
     }
 
+    void aScaledFontGrowsAsTheFontsOfTheStylesDo()
+    {
+        for (const double scale : { 0.75, 1.0, 1.3, 1.5 }) {
+            const Configuration configuration({ { QStringLiteral("textScale"), scale } });
+            QmlDesignSystem system;
+            for (const char *resolution : { "hd", "fullhd" }) {
+                QVERIFY(system.setResolution(QString::fromLatin1(resolution)));
+                QCOMPARE(system.scaledFont(FontHd::Body, FontSd::H5),
+                         system.lineEditStyle()->property("font").value<QFont>());
+            }
+            QVERIFY(system.setResolution(QStringLiteral("sd")));
+            QCOMPARE(system.scaledFont(FontHd::Caption2, FontSd::H6),
+                     system.contentTileStyle()->style().titleStyle.font);
+        }
+    }
+
+    void withoutATextScaleAScaledFontIsTheUnscaledOne()
+    {
+        const QmlDesignSystem system;
+        QCOMPARE(system.scaledFont(FontHd::H2, FontSd::H2), system.unscaledFont(FontHd::H2, FontSd::H2));
+        QCOMPARE(system.scaledFont(99, 0), system.unscaledFont(FontHd::Body, 0));
+    }
+
     void aNumberThatIsNoRoleGivesTheBodysFont()
     {
         const QmlDesignSystem system;
