@@ -4,9 +4,9 @@ import QtQuick.Templates as T
 import Stbui.UI.Qml.Controls.Generic
 
 // A check box, and with forceRounding a radio button: round, and exclusive among the buttons of its parent (or of
-// its ButtonGroup). The mark is there when the box is checked. The colours follow the state, checked before
-// focused; so that a checked box shows the focus too, its indicator then has a frame in the focused colour. Lengths
-// are pixels.
+// its ButtonGroup). A box that is not checked is an empty frame, a checked one is filled and has the mark. The colours
+// follow the state, checked before focused; so that a checked box shows the focus too, its indicator then has a frame
+// in the focused colour. Lengths are pixels.
 T.AbstractButton { // the template's CheckBox does not know autoExclusive
     id: control
 
@@ -18,6 +18,7 @@ T.AbstractButton { // the template's CheckBox does not know autoExclusive
     property list<color> iconColors: ["white"]
     property font titleFont
     property list<color> titleColors: ["gray"]
+    property real frameWidth: 3 // while it is not checked
     property real focusFrameWidth: 3
 
     implicitWidth: leftPadding + box.width + (text ? spacing + title.implicitWidth : 0) + rightPadding
@@ -37,10 +38,11 @@ T.AbstractButton { // the template's CheckBox does not know autoExclusive
         width: mark.implicitWidth
         height: mark.implicitHeight
         radius: control.forceRounding ? Math.min(width, height) / 2 : control.roundingRadius
-        color: ColorsByState.ofControl(control.indicatorColors, control.enabled, control.checked,
-                                       control.activeFocus)
-        border.width: control.activeFocus ? control.focusFrameWidth : 0
-        border.color: ColorsByState.ofControl(control.indicatorColors, true, false, true)
+        color: control.checked ? ColorsByState.ofControl(control.indicatorColors, control.enabled, true, false)
+                               : "transparent"
+        border.width: Math.max(control.checked ? 0 : control.frameWidth,
+                               control.activeFocus ? control.focusFrameWidth : 0)
+        border.color: ColorsByState.ofControl(control.indicatorColors, control.enabled, false, control.activeFocus)
 
         TintedIcon {
             id: mark

@@ -138,6 +138,15 @@ private Q_SLOTS:
         QVERIFY(contrastOverPictures(episode.dateLowerTextStyle.color, episode.overlayColor) >= 4.5);
     }
 
+    void theFrameOfAnUncheckedBoxShowsOnEverySurface_data() { eachTheme(); }
+    void theFrameOfAnUncheckedBoxShowsOnEverySurface()
+    {
+        const auto theme = system();
+        const QColor frame = theme->standardCheckBoxStyle()->indicatorColors().constFirst();
+        for (const char *surface : { "oslo", "bamako", "bogota" })
+            QVERIFY2(stands(frame, theme->colors()->token(QString::fromLatin1(surface)), 3), surface);
+    }
+
     void buttonsCanBeReadInEveryState_data() { eachTheme(); }
     void buttonsCanBeReadInEveryState()
     {

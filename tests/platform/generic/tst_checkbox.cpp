@@ -104,29 +104,35 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("properties");
         QTest::addColumn<bool>("focused");
-        QTest::addColumn<QColor>("indicator");
+        QTest::addColumn<QColor>("edge");
+        QTest::addColumn<QColor>("within"); // nothing unless the box is checked
         QTest::addColumn<QColor>("middle"); // of the mark, if it is there
-        QTest::newRow("normal") << "" << false << QColor("#101010") << QColor("#101010");
-        QTest::newRow("checked") << "checked: true" << false << QColor("#202020") << QColor("#606060");
-        QTest::newRow("disabled") << "enabled: false" << false << QColor("#303030") << QColor("#303030");
-        QTest::newRow("disabled, checked")
-                << "enabled: false; checked: true" << false << QColor("#303030") << QColor("#707070");
-        QTest::newRow("focused") << "" << true << QColor("#404040") << QColor("#404040");
-        QTest::newRow("focused, checked")
-                << "checked: true" << true << QColor("#202020") << QColor("#606060");
+        const auto row = [](const char *name, const char *properties, bool focused, const char *edge,
+                            const char *within, const char *middle) {
+            QTest::newRow(name) << QString::fromLatin1(properties) << focused << QColor(edge)
+                                << QColor(within) << QColor(middle);
+        };
+        row("normal", "", false, "#101010", "#ffffff", "#ffffff");
+        row("checked", "checked: true", false, "#202020", "#202020", "#606060");
+        row("disabled", "enabled: false", false, "#303030", "#ffffff", "#ffffff");
+        row("disabled, checked", "enabled: false; checked: true", false, "#303030", "#303030", "#707070");
+        row("focused", "", true, "#404040", "#ffffff", "#ffffff");
+        row("focused, checked", "checked: true", true, "#404040", "#202020", "#606060");
     }
     void theColoursFollowTheState()
     {
         QFETCH(QString, properties);
         QFETCH(bool, focused);
-        QFETCH(QColor, indicator);
+        QFETCH(QColor, edge);
+        QFETCH(QColor, within);
         QFETCH(QColor, middle);
         GenericScene scene("CheckBox { " + colors + properties + " }");
         QVERIFY(scene.item);
         if (focused)
             scene.item->forceActiveFocus();
         scene.stage.renderFrame();
-        QCOMPARE(scene.pixel(4, 4), indicator);
+        QCOMPARE(scene.pixel(1, 10), edge);
+        QCOMPARE(scene.pixel(4, 4), within);
         QCOMPARE(scene.pixel(10, 10), middle);
     }
 
@@ -143,6 +149,29 @@ private Q_SLOTS:
         QVERIFY2(QRect(0, 0, 22, 22).contains(painted.boundingRect()), "no more than the box");
     }
 
+    void aBoxThatIsNotCheckedIsAFrameOfItsOwnWidth()
+    {
+        GenericScene scene("CheckBox { " + colors + " frameWidth: 2; focusFrameWidth: 5 }");
+        scene.stage.renderFrame();
+        QCOMPARE(scene.pixel(1, 10), QColor("#101010"));
+        QCOMPARE(scene.pixel(2, 10), QColor(Qt::white));
+        scene.item->forceActiveFocus();
+        scene.stage.renderFrame();
+        QCOMPARE(scene.pixel(4, 10), QColor("#404040"));
+        QCOMPARE(scene.pixel(5, 10), QColor(Qt::white));
+    }
+
+    void anUnchosenRadioButtonIsARingWithTheFocusToo()
+    {
+        GenericScene scene("CheckBox { " + colors + " forceRounding: true }");
+        for (const char *color : { "#101010", "#404040" }) {
+            scene.stage.renderFrame();
+            QCOMPARE(scene.pixel(1, 10), QColor(color));
+            QCOMPARE(scene.pixel(10, 10), QColor(Qt::white));
+            scene.item->forceActiveFocus();
+        }
+    }
+
     void onlyARadioButtonIsRoundWhateverItsRadius()
     {
         GenericScene square("CheckBox { " + colors + " }");
@@ -153,7 +182,7 @@ private Q_SLOTS:
         QCOMPARE(square.pixel(0, 0), QColor("#101010"));
         QCOMPARE(round.pixel(1, 1), QColor(Qt::white));
         QCOMPARE(radius.pixel(0, 0), QColor(Qt::white));
-        QCOMPARE(radius.pixel(2, 2), QColor("#101010"));
+        QCOMPARE(radius.pixel(2, 2), QColor("#101010")); // of the frame
     }
 
     void theTitleStandsBesideTheBox()
