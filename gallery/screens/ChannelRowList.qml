@@ -10,7 +10,14 @@ ListView {
 
     required property ChannelsController controller
 
-    readonly property int rowHeight: 2 * Look.channelLogo.y + Look.channelLogo.height
+    // As high as the logo, or as the texts and the progress below each other.
+    // qmllint disable type
+    readonly property var rowStyle: QmlDesignSystem.playerTvChannelItemStyle.style
+    readonly property int rowHeight: Math.max(2 * Look.channelLogo.y + Look.channelLogo.height,
+                                              rowStyle.textTopOffset + Math.ceil(nameFont.height)
+                                              + rowStyle.programNameSpacing + Math.ceil(programmeFont.height)
+                                              + rowStyle.progressBarRect.height + rowStyle.bottomMargin)
+    // qmllint enable type
     readonly property int visibleRows: Math.max(1, Math.floor(height / rowHeight))
 
     interactive: false
@@ -35,7 +42,10 @@ ListView {
 
         objectName: "channelRow"
         width: ListView.view.width
-        height: 2 * Look.channelLogo.y + Look.channelLogo.height
+        // With Qt 6.4 a component cannot say that it belongs where it stands; the linter asks for that.
+        // qmllint disable unqualified
+        height: list.rowHeight
+        // qmllint enable unqualified
 
         FocusPlate {
             anchors.fill: parent
@@ -80,6 +90,18 @@ ListView {
     MiddleKeeper {
         list: list
     }
+    // qmllint disable type
+    FontMetrics {
+        id: nameFont
+
+        font: list.rowStyle.channelNameTextStyle.font
+    }
+    FontMetrics {
+        id: programmeFont
+
+        font: list.rowStyle.programNameTextStyle.font
+    }
+    // qmllint enable type
     LogoSheet {
         id: sheet
 

@@ -95,7 +95,7 @@ ListView {
                 width: height
                 height: Math.round(metrics.ascent)
                 visible: row.swatch.length > 0
-                radius: Look.tiny
+                radius: Look.smallRadius
                 color: row.swatch.length > 0 ? QmlDesignSystem.colors[row.swatch] : "transparent"
                 border.width: Look.hairline
                 border.color: Look.quietText

@@ -29,7 +29,7 @@ FocusScope {
     Rectangle {
         anchors.fill: parent
         anchors.margins: Look.frame
-        radius: Look.radius - Look.frame
+        radius: Look.innerRadius
         color: Look.backdrop
         border.width: stage.chosen ? 0 : Look.hairline
         border.color: Look.raised

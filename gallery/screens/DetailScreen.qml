@@ -30,6 +30,8 @@ FocusScope {
         spacing: Look.small
 
         Label {
+            id: title
+
             width: parent.width
             text: screen.detail.title
             font: Look.headline
@@ -37,6 +39,8 @@ FocusScope {
             maximumLineCount: 2
         }
         Label {
+            id: subtitle
+
             width: parent.width
             visible: text.length > 0
             text: screen.detail.subtitle
@@ -45,6 +49,8 @@ FocusScope {
             maximumLineCount: 2
         }
         Label {
+            id: facts
+
             width: parent.width
             text: screen.detail.facts
             color: Look.quietText
@@ -52,6 +58,8 @@ FocusScope {
             maximumLineCount: 2
         }
         Row {
+            id: progress
+
             visible: screen.detail.started
             spacing: Look.medium
 
@@ -67,16 +75,31 @@ FocusScope {
             }
         }
         Label {
+            id: description
+
+            // What is above it leaves room for as many lines; large texts for fewer.
+            readonly property real room: buttons.y - Look.large - Look.safeY - Look.small
+                                         - title.height - Look.small - facts.height - Look.small
+                                         - (subtitle.visible ? subtitle.height + Look.small : 0)
+                                         - (progress.visible ? progress.height + Look.small : 0)
+            readonly property int lines: Math.min(5, Math.floor(room / (1.15 * metrics.lineSpacing)))
+
+            objectName: "description"
             width: parent.width
             // Whole pixels for what is below and above.
             bottomPadding: Math.ceil(contentHeight) - contentHeight
-            visible: text.length > 0
+            visible: text.length > 0 && lines > 0
             topPadding: Look.small
             text: screen.detail.description
             wrapMode: Text.Wrap
-            maximumLineCount: 5
+            maximumLineCount: Math.max(1, lines)
             lineHeight: 1.15
         }
+    }
+    FontMetrics {
+        id: metrics
+
+        font: Look.body
     }
     Flow {
         id: buttons

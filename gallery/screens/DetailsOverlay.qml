@@ -3,7 +3,7 @@ import QtQuick
 import Gallery
 
 // The chosen programme, large, over the dimmed screen.
-Item {
+SlidingPanel {
     id: overlay
 
     required property GuideController guide
@@ -12,16 +12,19 @@ Item {
     Accessible.name: guide.title
     Accessible.description: guide.description
     Accessible.focusable: true
-    Accessible.focused: visible
+    Accessible.focused: open
 
     Rectangle {
         anchors.fill: parent
         color: Look.backdrop
-        opacity: 0.85
+        opacity: 0.85 * overlay.progress
     }
+    // From below.
     FocusPlate {
+        readonly property int place: Math.round((footer.y - height) / 2)
+
         anchors.horizontalCenter: parent.horizontalCenter
-        y: Math.round((footer.y - height) / 2)
+        y: place + Math.round((1 - overlay.progress) * (parent.height - place))
         width: Math.min(Math.round(860 * Look.unit), parent.width - 2 * Look.safeX)
         height: card.height + 2 * Look.tiny
 
@@ -32,7 +35,7 @@ Item {
             width: parent.width - 2 * Look.tiny
             height: facts.height + 2 * Look.huge
             color: Look.surface
-            radius: Look.radius - Look.tiny / 2
+            radius: Look.innerRadius
 
             ProgrammeFacts {
                 id: facts
@@ -40,6 +43,7 @@ Item {
                 anchors.centerIn: parent
                 width: parent.width - 2 * Look.huge
                 guide: overlay.guide
+                room: footer.y - Look.safeY - 2 * Look.huge - 2 * Look.tiny - Look.small
             }
         }
     }
@@ -53,6 +57,7 @@ Item {
         anchors.right: parent.right
         anchors.rightMargin: Look.safeX
         height: hints.height
+        visible: overlay.open
 
         Label {
             anchors.left: parent.left

@@ -67,7 +67,7 @@ ListView {
             y: Look.frame
             width: parent.width - 2 * Look.frame
             height: list.tile.height
-            style: QmlDesignSystem.playerEpisodesItemStyle
+            style: Look.episode
             listItemType: row.cellType
             imageSource: Pictures.filling(row.still, list.tile.width, list.tile.height)
             itemTitle: row.title

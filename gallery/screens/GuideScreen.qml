@@ -191,8 +191,8 @@ FocusScope {
     }
     DetailsOverlay {
         anchors.fill: parent
-        visible: screen.guide.detailsOpen
-        focus: visible
+        objectName: "details"
+        open: screen.guide.detailsOpen
         guide: screen.guide
     }
 }

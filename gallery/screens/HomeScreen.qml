@@ -11,6 +11,13 @@ FocusScope {
     required property MainMenuController menu
     required property GuideController guide
 
+    // What the rows need: the highest one with one line below its tiles, and with all. The lines may reach a little into
+    // what television sets may hide.
+    property real leastRowHeight: 0
+    property real fullRowHeight: 0
+    readonly property real end: height - Look.safeY / 2
+    readonly property real heroRoom: end - hero.y - Look.small
+
     focus: true
     Keys.onPressed: event => event.accepted = home.press(event.key)
 
@@ -63,25 +70,36 @@ FocusScope {
         spacing: Look.tiny
 
         Label {
+            id: title
+
             width: parent.width
             text: screen.home.title
             font: Look.headline
         }
         Label {
+            id: facts
+
+            objectName: "heroFacts"
             width: parent.width
+            visible: title.height + hero.spacing + height <= screen.heroRoom - screen.leastRowHeight
             text: screen.home.facts
             font: Look.caption
             color: Look.quietText
         }
         Label {
+            readonly property real room: screen.heroRoom - screen.fullRowHeight - title.height - facts.height
+                                         - 2 * hero.spacing
+            readonly property int lines: Math.max(0, Math.min(Look.wide ? 2 : 1, Math.floor(room / metrics.lineSpacing)))
+
             width: parent.width
             objectName: "heroDescription"
+            visible: facts.visible && lines > 0
             // A line of text may be a little higher than its font says.
-            height: Math.ceil((Look.wide ? 2.1 : 1.1) * metrics.lineSpacing)
+            height: Math.ceil((lines + 0.1) * metrics.lineSpacing)
             text: screen.home.description
             font: Look.caption
             wrapMode: Text.Wrap
-            maximumLineCount: Look.wide ? 2 : 1
+            maximumLineCount: Math.max(1, lines)
         }
         FontMetrics {
             id: metrics
@@ -115,6 +133,9 @@ FocusScope {
             width: ListView.view.width
             // qmllint disable unqualified
             active: ListView.isCurrentItem && !screen.home.inHeader
+            room: screen.end - rows.y
+            onLeastHeightChanged: screen.leastRowHeight = Math.max(screen.leastRowHeight, leastHeight)
+            onFullHeightChanged: screen.fullRowHeight = Math.max(screen.fullRowHeight, fullHeight)
             // qmllint enable unqualified
         }
 

@@ -15,20 +15,20 @@ Row {
         width: keyLabel.width + 2 * Look.small
         height: keyLabel.height + Look.tiny
         color: Look.raised
-        radius: Look.tiny
+        radius: Look.smallRadius
 
         Label {
             id: keyLabel
 
             anchors.centerIn: parent
             text: hint.key
-            font: Look.hint
+            font: Look.keyHint
         }
     }
     Label {
         anchors.verticalCenter: parent.verticalCenter
         text: hint.text
-        font: Look.hint
+        font: Look.keyHint
         color: Look.quietText
     }
 }

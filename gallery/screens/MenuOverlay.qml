@@ -3,7 +3,7 @@ import QtQuick
 import Gallery
 
 // The main menu over a screen, which stays as it is meanwhile and is seen as through a veil.
-FocusScope {
+SlidingPanel {
     id: overlay
 
     required property MainMenuController menu
@@ -15,10 +15,14 @@ FocusScope {
     Rectangle {
         anchors.fill: parent
         color: Look.badge
+        opacity: overlay.progress
     }
+    // From above.
     HomeHeader {
-        anchors.top: parent.top
-        anchors.topMargin: Look.safeY
+        id: header
+
+        objectName: "menuPanel"
+        y: Look.safeY - Math.round((1 - overlay.progress) * (Look.safeY + height + Look.huge))
         anchors.left: parent.left
         anchors.leftMargin: Look.safeX
         anchors.right: parent.right

@@ -11,7 +11,7 @@ Item {
     required property PlayerController player
     readonly property bool active: player.area === PlayerController.Programmes
     // qmllint disable type
-    readonly property rect cell: QmlDesignSystem.playerHorizontalEpgViewStyle.style.delegateRect
+    readonly property rect cell: Look.programme.style.delegateRect
     readonly property rect image: QmlDesignSystem.playerHorizontalEpgViewStyle.style.imageRect
     // qmllint enable type
     readonly property int step: cell.width + Look.medium
@@ -78,7 +78,7 @@ Item {
                 y: Look.frame
                 width: programmes.cell.width
                 height: programmes.cell.height
-                style: QmlDesignSystem.playerHorizontalEpgViewStyle
+                style: Look.programme
                 imageSource: Pictures.filling(row.picture, programmes.image.width, programmes.image.height)
                 itemTitle: row.title
                 tvProgramExactDate: row.exactDate

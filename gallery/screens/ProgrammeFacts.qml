@@ -7,8 +7,15 @@ Column {
     id: facts
 
     required property GuideController guide
-    // Longer titles leave room for fewer lines.
-    readonly property int linesPerPage: 8 - Number(title.lineCount > 1) - Number(subtitle.lineCount > 1)
+    // How high all of it may be.
+    required property real room
+    // Longer titles leave room for fewer lines, and so do larger texts.
+    readonly property real others: channel.height + times.height + title.height + 4 * spacing
+                                   + (subtitle.visible ? subtitle.height + spacing : 0)
+                                   + (line.visible ? line.height + spacing : 0)
+                                   + (category.visible ? category.height + spacing : 0)
+    readonly property int linesPerPage: Math.max(1, Math.min(8 - Number(title.lineCount > 1) - Number(subtitle.lineCount > 1),
+                                                             Math.floor((room - others) / description.lineHeight)))
     readonly property int pages: Math.ceil(description.lineCount / linesPerPage)
     // The last page is as full as the others.
     readonly property int firstLine: Math.max(0, Math.min(guide.detailsPage * linesPerPage, description.lineCount - linesPerPage))
@@ -16,11 +23,15 @@ Column {
     spacing: Look.small
 
     Label {
+        id: channel
+
         width: parent.width
         text: facts.guide.channelName
         color: Look.accent
     }
     Label {
+        id: times
+
         width: parent.width
         text: facts.guide.dayText + " · " + facts.guide.timeRange
         color: Look.quietText
@@ -44,6 +55,8 @@ Column {
         maximumLineCount: 2
     }
     ProgressLine {
+        id: line
+
         width: parent.width
         visible: facts.guide.live
         progress: facts.guide.progress
@@ -64,8 +77,8 @@ Column {
                 objectName: "description"
                 y: -facts.firstLine * lineHeight
                 width: parent.width
-                // Nobody reads it while the details are closed.
-                text: facts.guide.detailsOpen ? facts.guide.description : ""
+                // Nobody reads it while the details are not seen.
+                text: facts.visible ? facts.guide.description : ""
                 color: Look.quietText
                 wrapMode: Text.Wrap
                 elide: Text.ElideNone
@@ -76,6 +89,8 @@ Column {
         }
     }
     Label {
+        id: category
+
         width: parent.width
         visible: text.length > 0
         topPadding: Look.small

@@ -9,6 +9,8 @@ ContentTile {
     id: tile
 
     required property bool focused
+    // Of title, subtitle and status as many as there is room for.
+    property int captionLines: 3
     required property string title
     required property string subtitle
     required property string status
@@ -24,8 +26,8 @@ ContentTile {
     z: focused ? 2 : 1
     style: QmlDesignSystem.contentTileStyle
     itemTitle: title
-    itemSubtitle: subtitle
-    itemStatus: status
+    itemSubtitle: captionLines > 1 ? subtitle : ""
+    itemStatus: captionLines > 1 + Number(subtitle.length > 0) ? status : ""
     itemIsFavourite: favourite
     imageSource: Pictures.filling(still, style.style.focusedRect.width, style.style.focusedRect.height)
     Accessible.role: Accessible.ListItem

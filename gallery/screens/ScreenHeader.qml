@@ -19,6 +19,7 @@ Item {
 
         anchors.left: parent.left
         anchors.baseline: clock.baseline
+        width: Math.min(implicitWidth, header.width - clock.width - Look.medium)
         text: header.title
         font: Look.headline
     }

@@ -72,8 +72,7 @@ FocusScope {
     }
     MenuOverlay {
         anchors.fill: parent
-        visible: shell.controller.menu.open
-        focus: visible
+        open: shell.controller.menu.open
         menu: shell.controller.menu
         clockText: shell.controller.guide.clockText
     }

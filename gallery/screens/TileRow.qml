@@ -11,6 +11,8 @@ Item {
     required property HomeRow row
     // Whether keys act on this row.
     required property bool active
+    // How high the row may be. Where texts are large, the lower lines below the tiles go.
+    required property real room
     readonly property bool upright: row.kind === HomeRow.Films || row.kind === HomeRow.Series
     readonly property TileQmlStyle tileStyle: upright ? QmlDesignSystem.vodTileStyle
                                                       : QmlDesignSystem.contentTileStyle
@@ -24,7 +26,23 @@ Item {
     readonly property int step: tileRect.width + QmlDesignSystem.layouts.viewHorizontalSpacing
 
     Component.onCompleted: { placed = true; completed = true }
-    height: name.height + list.anchors.topMargin + list.height + Look.medium
+    // Without the lines below the tiles, with the first of them, and with all.
+    readonly property real bareHeight: name.height + list.anchors.topMargin + focusedRect.y + focusedRect.height
+    readonly property real leastHeight: bareHeight + captionHeight(1)
+    readonly property real fullHeight: bareHeight + captionHeight(row.captionLines)
+    readonly property int captionLines: {
+        let lines = row.captionLines;
+        while (lines > 1 && bareHeight + captionHeight(lines) > room)
+            --lines;
+        return lines;
+    }
+
+    function captionHeight(lines: int): int {
+        return Math.ceil(Look.captionSpacing + titleFont.height)
+               + (lines - 1) * Math.ceil(Look.captionSpacing + lineFont.height);
+    }
+
+    height: bareHeight + captionHeight(captionLines) + Look.medium
 
     Binding {
         tileRow.row.columns: Math.floor((tileRow.width - 2 * Look.safeX + tileRow.step - tileRow.tileRect.width)
@@ -43,11 +61,12 @@ Item {
     ListView {
         id: list
 
+        objectName: "tiles"
         anchors.top: name.bottom
         // The tile that has the focus grows, and has a frame.
         anchors.topMargin: Look.small - tileRow.focusedRect.y
         width: parent.width
-        height: tileRow.focusedRect.y + tileRow.focusedRect.height + caption.height
+        height: tileRow.focusedRect.y + tileRow.focusedRect.height + tileRow.captionHeight(tileRow.captionLines)
         orientation: ListView.Horizontal
         spacing: tileRow.step - tileRow.tileRect.width
         interactive: false
@@ -81,7 +100,7 @@ Item {
         delegate: tileRow.row.kind === HomeRow.NowOnTv ? programme : video
 
         Behavior on contentX {
-            enabled: tileRow.completed && QmlSettings.viewportScrollingAnimationsEnabled
+            enabled: tileRow.completed && QmlSettings.layoutScrollingAnimationsEnabled
             SmoothedAnimation {
                 duration: Look.scrollTime
                 velocity: -1
@@ -94,6 +113,7 @@ Item {
 
         ProgrammeTile {
             focused: tileRow.active && ListView.isCurrentItem
+            captionLines: tileRow.captionLines
         }
     }
     Component {
@@ -104,31 +124,22 @@ Item {
             required property url still
 
             focused: tileRow.active && ListView.isCurrentItem
+            captionLines: tileRow.captionLines
             style: tileRow.tileStyle
             shownPicture: tileRow.upright ? picture : still
         }
     }
-    // As high as the lines below a tile.
-    Column {
-        id: caption
-
-        visible: false
-        topPadding: spacing
-        spacing: Look.captionSpacing
-
-        Repeater {
-            model: tileRow.row.captionLines
-
-            Label {
-                required property int index
-
-                text: "X"
-                // qmllint disable type
-                font: index === 0 ? tileRow.tileStyle.style.titleStyle.font
-                                  : tileRow.tileStyle.style.subtitleStyle.font
-                // qmllint enable type
-            }
-        }
-    }
     // qmllint enable unqualified
+    // qmllint disable type
+    FontMetrics {
+        id: titleFont
+
+        font: tileRow.tileStyle.style.titleStyle.font
+    }
+    FontMetrics {
+        id: lineFont
+
+        font: tileRow.tileStyle.style.subtitleStyle.font
+    }
+    // qmllint enable type
 }

@@ -8,6 +8,8 @@ VodTile {
     id: tile
 
     required property bool focused
+    // Of title, subtitle and status as many as there is room for.
+    property int captionLines: 3
     required property url shownPicture
     required property string title
     required property string subtitle
@@ -24,8 +26,8 @@ VodTile {
     state: completed && focused ? "focused" : "normal"
     z: focused ? 2 : 1
     itemTitle: title
-    itemSubtitle: subtitle
-    itemStatus: status
+    itemSubtitle: captionLines > 1 ? subtitle : ""
+    itemStatus: captionLines > 1 + Number(subtitle.length > 0) ? status : ""
     itemIsFavourite: favourite
     ratingText: rating
     mediaPositionsTimepoint: position

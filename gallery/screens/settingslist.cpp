@@ -148,11 +148,13 @@ SettingsSection animations(const SettingsStore &store)
     const auto add = [&](const QString &title, const QString &key) {
         section.rows.append(switchRow(store, title, u"Animations"_s, key, true));
     };
-    add(QCoreApplication::translate("Settings", "The focus grows smoothly"), u"focusingEnabled"_s);
-    add(QCoreApplication::translate("Settings", "Lists scroll smoothly"), u"layoutScrollingEnabled"_s);
-    add(QCoreApplication::translate("Settings", "Pages scroll smoothly"), u"viewportScrollingEnabled"_s);
-    add(QCoreApplication::translate("Settings", "Pictures fade in"), u"fadeEffectEnabled"_s);
-    add(QCoreApplication::translate("Settings", "Panels slide in"), u"slidingEnabled"_s);
+    add(QCoreApplication::translate("Settings", "Tiles grow smoothly"), u"focusingEnabled"_s);
+    add(QCoreApplication::translate("Settings", "Tiles and menu scroll smoothly"),
+        u"layoutScrollingEnabled"_s);
+    add(QCoreApplication::translate("Settings", "The home screen scrolls smoothly"),
+        u"viewportScrollingEnabled"_s);
+    add(QCoreApplication::translate("Settings", "Pictures and menu edges fade in"), u"fadeEffectEnabled"_s);
+    add(QCoreApplication::translate("Settings", "Menu and details slide in"), u"slidingEnabled"_s);
     return section;
 }
 

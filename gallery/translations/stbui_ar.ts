@@ -847,24 +847,24 @@
         <translation>زوايا مستديرة</translation>
     </message>
     <message>
-        <source>The focus grows smoothly</source>
-        <translation>تكبير العنصر المحدد بسلاسة</translation>
+        <source>Tiles grow smoothly</source>
+        <translation>تكبر المربعات بسلاسة</translation>
     </message>
     <message>
-        <source>Lists scroll smoothly</source>
-        <translation>تمرير القوائم بسلاسة</translation>
+        <source>Tiles and menu scroll smoothly</source>
+        <translation>تتحرك المربعات والقائمة بسلاسة</translation>
     </message>
     <message>
-        <source>Pages scroll smoothly</source>
-        <translation>تمرير الصفحات بسلاسة</translation>
+        <source>The home screen scrolls smoothly</source>
+        <translation>تتحرك الشاشة الرئيسية بسلاسة</translation>
     </message>
     <message>
-        <source>Pictures fade in</source>
-        <translation>ظهور الصور تدريجيًا</translation>
+        <source>Pictures and menu edges fade in</source>
+        <translation>تظهر الصور وحواف القائمة تدريجيًا</translation>
     </message>
     <message>
-        <source>Panels slide in</source>
-        <translation>انزلاق اللوحات</translation>
+        <source>Menu and details slide in</source>
+        <translation>تنزلق القائمة والتفاصيل إلى الداخل</translation>
     </message>
     <message>
         <source>Picture</source>

@@ -847,24 +847,24 @@
         <translation>Runde Ecken</translation>
     </message>
     <message>
-        <source>The focus grows smoothly</source>
-        <translation>Auswahl wächst fließend</translation>
+        <source>Tiles grow smoothly</source>
+        <translation>Kacheln wachsen fließend</translation>
     </message>
     <message>
-        <source>Lists scroll smoothly</source>
-        <translation>Listen rollen fließend</translation>
+        <source>Tiles and menu scroll smoothly</source>
+        <translation>Kacheln und Menü rollen fließend</translation>
     </message>
     <message>
-        <source>Pages scroll smoothly</source>
-        <translation>Seiten rollen fließend</translation>
+        <source>The home screen scrolls smoothly</source>
+        <translation>Die Startseite rollt fließend</translation>
     </message>
     <message>
-        <source>Pictures fade in</source>
-        <translation>Bilder blenden ein</translation>
+        <source>Pictures and menu edges fade in</source>
+        <translation>Bilder und Menüränder blenden ein</translation>
     </message>
     <message>
-        <source>Panels slide in</source>
-        <translation>Leisten gleiten herein</translation>
+        <source>Menu and details slide in</source>
+        <translation>Menü und Details gleiten herein</translation>
     </message>
     <message>
         <source>Picture</source>

@@ -847,24 +847,24 @@
         <translation>Rounded corners</translation>
     </message>
     <message>
-        <source>The focus grows smoothly</source>
-        <translation>The focus grows smoothly</translation>
+        <source>Tiles grow smoothly</source>
+        <translation>Tiles grow smoothly</translation>
     </message>
     <message>
-        <source>Lists scroll smoothly</source>
-        <translation>Lists scroll smoothly</translation>
+        <source>Tiles and menu scroll smoothly</source>
+        <translation>Tiles and menu scroll smoothly</translation>
     </message>
     <message>
-        <source>Pages scroll smoothly</source>
-        <translation>Pages scroll smoothly</translation>
+        <source>The home screen scrolls smoothly</source>
+        <translation>The home screen scrolls smoothly</translation>
     </message>
     <message>
-        <source>Pictures fade in</source>
-        <translation>Pictures fade in</translation>
+        <source>Pictures and menu edges fade in</source>
+        <translation>Pictures and menu edges fade in</translation>
     </message>
     <message>
-        <source>Panels slide in</source>
-        <translation>Panels slide in</translation>
+        <source>Menu and details slide in</source>
+        <translation>Menu and details slide in</translation>
     </message>
     <message>
         <source>Picture</source>

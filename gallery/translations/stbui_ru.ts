@@ -847,24 +847,24 @@
         <translation>Скруглённые углы</translation>
     </message>
     <message>
-        <source>The focus grows smoothly</source>
-        <translation>Плавный рост выделенного</translation>
+        <source>Tiles grow smoothly</source>
+        <translation>Плитки плавно увеличиваются</translation>
     </message>
     <message>
-        <source>Lists scroll smoothly</source>
-        <translation>Плавная прокрутка списков</translation>
+        <source>Tiles and menu scroll smoothly</source>
+        <translation>Плитки и меню движутся плавно</translation>
     </message>
     <message>
-        <source>Pages scroll smoothly</source>
-        <translation>Плавная прокрутка страниц</translation>
+        <source>The home screen scrolls smoothly</source>
+        <translation>Главный экран движется плавно</translation>
     </message>
     <message>
-        <source>Pictures fade in</source>
-        <translation>Плавное появление картинок</translation>
+        <source>Pictures and menu edges fade in</source>
+        <translation>Картинки и края меню проявляются</translation>
     </message>
     <message>
-        <source>Panels slide in</source>
-        <translation>Выезжающие панели</translation>
+        <source>Menu and details slide in</source>
+        <translation>Меню и сведения выезжают</translation>
     </message>
     <message>
         <source>Picture</source>

@@ -49,6 +49,26 @@ protected:
         m_application->configuration()->setForRun(group, key, value);
     }
 
+    /*! Chooses the value \a title on the screen of settings, whatever is shown; false when there is none. */
+    bool choose(const QString &title) const
+    {
+        gallery::SettingsController *settings = shell()->settings();
+        for (int group = 0; group < settings->groups().size(); ++group) {
+            settings->open(group);
+            const QVariantList sections = settings->sections();
+            for (const QVariant &section : sections) {
+                const QVariantList rows = section.toMap().value("rows").toList();
+                for (const QVariant &row : rows) {
+                    if (row.toMap().value("title") != title)
+                        continue;
+                    settings->choose(row.toMap().value("row").toInt());
+                    return true;
+                }
+            }
+        }
+        return false;
+    }
+
     /*! Waits until all pictures are there and nothing is painted any more. */
     void settle() const
     {

@@ -26,6 +26,8 @@ protected:
         // The configuration of a run lies over the one of before: the old one goes first.
         m_application.reset();
         m_application = std::make_unique<gallery::Application>(options);
+        // Panels are where they belong at once.
+        m_application->configuration()->setForRun("Animations", "slidingEnabled", false);
         QVERIFY2(m_application->start(), qPrintable(m_application->error()));
         QVERIFY(QTest::qWaitForWindowExposed(view()));
         shell()->guide()->setGuide(guides::five());

@@ -46,26 +46,6 @@ class tst_Rebuild : public RebuildTest
         return asked == nullptr ? QVariant() : asked->property("answer");
     }
 
-    /*! Chooses the value \a title on the screen of settings; false when there is none. */
-    bool choose(const QString &title) const
-    {
-        gallery::SettingsController *settings = shell()->settings();
-        for (int group = 0; group < settings->groups().size(); ++group) {
-            settings->open(group);
-            const QVariantList sections = settings->sections();
-            for (const QVariant &section : sections) {
-                const QVariantList rows = section.toMap().value("rows").toList();
-                for (const QVariant &row : rows) {
-                    if (row.toMap().value("title") != title)
-                        continue;
-                    settings->choose(row.toMap().value("row").toInt());
-                    return true;
-                }
-            }
-        }
-        return false;
-    }
-
     std::unique_ptr<stbconfig::IniConfigurationManager> m_store;
     stbconfig::ConfigurationManager *m_usual = nullptr;
 

@@ -92,8 +92,9 @@ private Q_SLOTS:
         m->focusGroup(Look);
         QCOMPARE(titles(), QStringList { "Rounded corners" });
         m->focusGroup(Movement);
-        QCOMPARE(titles(), (QStringList { "The focus grows smoothly", "Lists scroll smoothly",
-                                          "Pages scroll smoothly", "Pictures fade in", "Panels slide in" }));
+        QCOMPARE(titles(), (QStringList { "Tiles grow smoothly", "Tiles and menu scroll smoothly",
+                                          "The home screen scrolls smoothly",
+                                          "Pictures and menu edges fade in", "Menu and details slide in" }));
     }
 
     void rowsAreNumberedThroughAllSections()

@@ -114,7 +114,7 @@ private Q_SLOTS:
     {
         start();
         press({ Qt::Key_End, Qt::Key_Return });
-        QCOMPARE(focusedText(), "The focus grows smoothly");
+        QCOMPARE(focusedText(), "Tiles grow smoothly");
         QCOMPARE(checkedTexts().size(), 5);
         for (const Qt::Key key : { Qt::Key_Return, Qt::Key_Enter, Qt::Key_Select }) {
             const qsizetype before = checkedTexts().size();
@@ -265,7 +265,7 @@ private Q_SLOTS:
         QAccessibleInterface *group = QAccessible::queryAccessibleInterface(items("group").constLast());
         group->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         settle();
-        QCOMPARE(focusedText(), "The focus grows smoothly");
+        QCOMPARE(focusedText(), "Tiles grow smoothly");
         value = QAccessible::queryAccessibleInterface(items("value").at(3));
         value->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
         settle();

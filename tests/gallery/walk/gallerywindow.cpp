@@ -38,6 +38,7 @@ GalleryWindow::GalleryWindow(const WindowLook &look)
         m_configuration.setValue(u"UI"_s, u"theme"_s, ":/stbui/design/themes/"_L1 + look.theme + ".json"_L1);
     if (!look.resolution.isEmpty())
         m_configuration.setValue(u"UI"_s, u"resolution"_s, look.resolution);
+    m_configuration.setValue(u"UI"_s, u"textScale"_s, look.textScale);
     for (const QString &key : { u"focusingEnabled"_s, u"layoutScrollingEnabled"_s,
                                 u"viewportScrollingEnabled"_s, u"fadeEffectEnabled"_s, u"slidingEnabled"_s })
         m_configuration.setValue(u"Animations"_s, key, false);

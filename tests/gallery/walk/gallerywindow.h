@@ -15,6 +15,7 @@ struct WindowLook
     QString theme; // "light" and so on
     QString resolution; // "hd", "fullhd", "sd"
     QString language; // "en" if empty
+    double textScale = 1;
 };
 
 /*!
