@@ -19,7 +19,7 @@ FocusMemory {
 
     readonly property real contentY: titleText.visible ? titleText.height + titleSpacing : 0
 
-    implicitHeight: contentY + contentArea.childrenRect.y + contentArea.childrenRect.height
+    implicitHeight: contentY + contentHeight
     area: contentArea
 
     Accessible.role: Accessible.Grouping

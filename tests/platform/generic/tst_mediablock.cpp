@@ -164,6 +164,39 @@ private Q_SLOTS:
         QCOMPARE(scene.item->findChild<QQuickItem *>(u"content"_s)->size(), QSizeF(301, 200));
     }
 
+    void aBlockWithoutHeightIsAsHighAsTheContentThatDoesNotFillIt()
+    {
+        Scene scene; // a loop of bindings would be a warning
+        QVERIFY(scene.showBlock(u"Item { objectName: 'filling'; anchors.fill: parent }"_s));
+        QCOMPARE(scene.item->height(), 0);
+        QVERIFY(scene.showBlock(u"Item { objectName: 'filling'; anchors.fill: parent }\n"
+                                "Item { objectName: 'other'; y: 5; width: 20; height: 31 }"_s));
+        QCOMPARE(scene.item->height(), 36);
+        QCOMPARE(scene.item->findChild<QQuickItem *>(u"filling"_s)->height(), 36);
+        scene.item->findChild<QQuickItem *>(u"other"_s)->setHeight(42);
+        QCOMPARE(scene.item->height(), 47);
+        QVERIFY(scene.showBlock(
+                u"title: 'News'; titleSpacing: 7\n"
+                "ScrolledListView { anchors.fill: parent; model: 3; delegate: Item { height: 9 } }"_s));
+        const QQuickItem *title = stbtest::findItem(scene.item.get(), "QQuickText");
+        QCOMPARE(scene.item->height(), title->height() + 7);
+    }
+
+    void aBlockFollowsTheHeightOfItsContent()
+    {
+        Scene scene;
+        QVERIFY(scene.showBlock(u"Item { objectName: 'content'; width: 20; height: 31 }"_s));
+        auto *content = scene.item->findChild<QQuickItem *>(u"content"_s);
+        content->setHeight(53);
+        QCOMPARE(scene.item->height(), 53);
+        content->setHeight(17);
+        QCOMPARE(scene.item->height(), 17);
+        content->setVisible(false);
+        content->setParentItem(nullptr);
+        QCOMPARE(scene.item->height(), 0);
+        content->setParentItem(scene.item.get());
+    }
+
     void aTitleThatIsTooLongIsElided()
     {
         Scene scene;
