@@ -4,7 +4,8 @@ import Stbui.UI.Qml.Controls.Generic
 
 // A line of text input. A real keyboard writes while it has the focus, an on-screen keyboard through its
 // functions, with the focus elsewhere; "editing" then shows the cursor and the focused colours all the same.
-// OK emits accepted(); left and right leave it at the ends of the text. Lengths are pixels.
+// Return, Enter and Select emit accepted(), once when held; left and right leave it at the ends of the text. Lengths
+// are pixels.
 FocusScope {
     id: control
 
@@ -40,6 +41,7 @@ FocusScope {
     property real cursorWidth: 1
 
     readonly property bool focusShown: activeFocus || editing
+    readonly property string spokenName: placeholderText !== "" ? placeholderText : qsTr("Text field")
 
     signal accepted
     signal textEdited
@@ -63,9 +65,15 @@ FocusScope {
         input.selectAll()
     }
 
+    onEditingChanged: if (!editing) TextKeys.endEditing(input)
+
     implicitWidth: leftPadding + Math.max(input.implicitWidth, placeholder.implicitWidth) + rightPadding
     implicitHeight: topPadding + Math.max(input.implicitHeight, placeholder.implicitHeight) + bottomPadding
 
+    OkKey {
+        target: input
+        key: Qt.Key_Return
+    }
     Rectangle {
         anchors.fill: parent
         radius: control.roundingRadius
@@ -77,9 +85,9 @@ FocusScope {
         id: placeholder
 
         anchors.fill: input
-        // The cursor stands before the text, not in it.
-        leftPadding: effectiveHorizontalAlignment === Text.AlignLeft ? control.cursorWidth : 0
-        rightPadding: effectiveHorizontalAlignment === Text.AlignRight ? control.cursorWidth : 0
+        // The cursor stands before the text, as far from it as it is wide.
+        leftPadding: effectiveHorizontalAlignment === Text.AlignLeft ? 2 * control.cursorWidth : 0
+        rightPadding: effectiveHorizontalAlignment === Text.AlignRight ? 2 * control.cursorWidth : 0
         visible: !input.length && !input.preeditText
         text: control.placeholderText
         textFormat: Text.PlainText
@@ -107,8 +115,8 @@ FocusScope {
         cursorDelegate: Item {} // below is one that stands still and may lie in the right padding
 
         Accessible.role: Accessible.EditableText
-        Accessible.name: control.placeholderText
-        Accessible.description: control.placeholderText // Qt tells no name of a password's input
+        Accessible.name: control.spokenName
+        Accessible.description: control.spokenName // Qt tells no name of a password's input
         Accessible.passwordEdit: echoMode !== TextInput.Normal
         Accessible.readOnly: readOnly
 

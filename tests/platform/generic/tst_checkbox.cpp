@@ -57,6 +57,24 @@ private Q_SLOTS:
         QCOMPARE(scene.item->property("checked"), QVariant(false));
     }
 
+    void aPressEndsWithoutATickWhenTheBoxIsHidden_data() { addKeys(); }
+    void aPressEndsWithoutATickWhenTheBoxIsHidden()
+    {
+        QFETCH(int, key);
+        GenericScene scene(box);
+        scene.item->forceActiveFocus();
+        scene.press(key);
+        QCOMPARE(scene.item->property("pressed"), QVariant(true));
+        scene.item->setVisible(false);
+        QCOMPARE(scene.item->property("pressed"), QVariant(false));
+        scene.release(key);
+        QCOMPARE(scene.item->property("checked"), QVariant(false));
+        scene.item->setVisible(true);
+        scene.item->forceActiveFocus();
+        scene.click(key);
+        QCOMPARE(scene.item->property("checked"), QVariant(true));
+    }
+
     void aDisabledBoxDoesNotToggle()
     {
         GenericScene scene("Item { T.Pane { objectName: 'other'; focusPolicy: Qt.StrongFocus }\n" + box + "}");
