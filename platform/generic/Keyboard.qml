@@ -13,6 +13,8 @@ KeyboardPad {
     // The line of text to write into. It keeps its cursor shown while the keyboard has the focus.
     property LineEdit target
 
+    edited: target
+
     Accessible.role: Accessible.Grouping
     Accessible.name: qsTr("Keyboard")
 
@@ -21,11 +23,6 @@ KeyboardPad {
     onCursorLeftPressed: control.target?.moveCursorLeft()
     onCursorRightPressed: control.target?.moveCursorRight()
 
-    Binding {
-        target: control.target
-        property: "editing"
-        value: control.activeFocus
-    }
     Repeater {
         model: control.keyCount
         delegate: KeyboardKey {

@@ -98,7 +98,9 @@ const QStringList &keyboardSymbols()
 
 int keyboardLayoutOf(const QString &language)
 {
-    const QString code = language.left(language.indexOf(u'_')); // the whole name when there is no territory
+    const auto end = std::find_if(language.begin(), language.end(),
+                                  [](QChar c) { return c == u'_' || c == u'-'; });
+    const QString code(language.constData(), end - language.begin());
     const QList<KeyboardLayout> &layouts = keyboardLayouts();
     const auto layout = std::find_if(layouts.begin(), layouts.end(), [&code](const KeyboardLayout &candidate) {
         return candidate.language == code;

@@ -26,7 +26,7 @@ const QList<KeyboardLayout> &keyboardLayouts();
 /*! The symbols, which all languages share: keyboardSymbolCount texts. */
 const QStringList &keyboardSymbols();
 
-/*! The number of the layout for a \a language ("en") or a locale's name ("en_GB"); -1 when there is none. */
+/*! The number of the layout for a \a language ("en") or a locale's name ("en_GB", "en-GB"); -1 when there is none. */
 int keyboardLayoutOf(const QString &language);
 
 /*! How a \a text is shown on a key: a mark that needs a letter gets a bar to stand on. */

@@ -6,6 +6,7 @@
 
 #include <QtCore/qlocale.h>
 #include <QtGui/qevent.h>
+#include <QtQuick/qquickwindow.h>
 
 namespace stbgeneric {
 
@@ -30,6 +31,7 @@ KeyboardPad::~KeyboardPad()
 {
     for (KeyboardKey *key : std::as_const(m_keys))
         key->forgetPad(); // Qt Quick takes the keys from a parent that is no pad any more
+    tellEdited(false);
 }
 
 // --- state ----------------------------------------------------------------------------------------------
@@ -81,6 +83,22 @@ void KeyboardPad::setCurrentKey(int key)
     giveFocus();
 }
 
+void KeyboardPad::setEdited(QQuickItem *edited)
+{
+    if (edited == m_edited)
+        return;
+    tellEdited(false);
+    m_edited = edited;
+    Q_EMIT editedChanged();
+    tellEdited(hasActiveFocus() && isVisible());
+}
+
+void KeyboardPad::tellEdited(bool isEdited)
+{
+    if (m_edited)
+        m_edited->setProperty("editing", isEdited);
+}
+
 void KeyboardPad::giveFocus()
 {
     for (KeyboardKey *key : std::as_const(m_keys)) {
@@ -93,6 +111,9 @@ void KeyboardPad::giveFocus()
 
 void KeyboardPad::keyPressEvent(QKeyEvent *event)
 {
+    event->ignore();
+    if (!isVisible())
+        return;
     const int key = event->key();
     const bool isOk = isOkKey(key) && key != Qt::Key_Space;
     if (isOk) {
@@ -139,7 +160,7 @@ bool KeyboardPad::type(const QKeyEvent &event)
     }
     constexpr Qt::KeyboardModifiers commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
     const QString text = event.text();
-    if (text.isEmpty() || !text.at(0).isPrint() || (event.modifiers() & commands))
+    if (text.isEmpty() || !QChar::isPrint(text.toUcs4().constFirst()) || (event.modifiers() & commands))
         return false;
     Q_EMIT textEntered(text);
     return true;
@@ -147,7 +168,7 @@ bool KeyboardPad::type(const QKeyEvent &event)
 
 void KeyboardPad::pressKey(int key)
 {
-    if (key < 0 || key >= keyCount())
+    if (key < 0 || key >= keyCount() || !isEnabled() || !isVisible())
         return;
     setCurrentKey(key);
     const KeyPlace &place = keyboardKeys().at(key);
@@ -317,9 +338,32 @@ void KeyboardPad::updatePolish()
 void KeyboardPad::itemChange(ItemChange change, const ItemChangeData &data)
 {
     QQuickItem::itemChange(change, data);
+    if (change == ItemSceneChange)
+        followLanguageIn(data.window);
+    else if (change == ItemActiveFocusHasChanged || change == ItemVisibleHasChanged)
+        tellEdited(hasActiveFocus() && isVisible());
     if (change == ItemVisibleHasChanged || change == ItemEnabledHasChanged
         || change == ItemDevicePixelRatioHasChanged || change == ItemSceneChange)
         polish();
+}
+
+void KeyboardPad::followLanguageIn(QQuickWindow *window)
+{
+    if (m_window)
+        m_window->removeEventFilter(this);
+    m_window = window;
+    if (m_window)
+        m_window->installEventFilter(this);
+}
+
+bool KeyboardPad::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        for (KeyboardKey *key : std::as_const(m_keys))
+            key->updateState();
+        polish();
+    }
+    return QQuickItem::eventFilter(watched, event);
 }
 
 } // namespace stbgeneric

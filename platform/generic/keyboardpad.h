@@ -5,6 +5,7 @@
 #include "keyboardgrid.h"
 #include "keyboardstate.h"
 
+#include <QtCore/qpointer.h>
 #include <QtGui/qcolor.h>
 #include <QtGui/qfont.h>
 #include <QtQml/qqmlregistration.h>
@@ -21,7 +22,8 @@ struct KeyLook;
 
     Arrow keys steer, Return, Enter and Select press the current key. A key that is held repeats the steering; held
     OK repeats backspace and the cursor keys and presses any other once. What a real keyboard types meanwhile, the
-    space bar included, goes the same way as what the keys type.
+    space bar included, goes the same way as what the keys type. A keyboard that is hidden or disabled does nothing.
+    The texts on its keys follow a change of the application's translator.
 
     Keys keep their places in a mirrored layout and for Arabic, as on the keyboards one is used to; left and right
     are those of the screen. Only the picture of backspace is mirrored for a language that runs to the left.
@@ -59,7 +61,7 @@ class KeyboardPad : public QQuickItem
 
     /*!
         The language whose letters are shown: "en", "ru", "de" or "ar"; by default that of the default locale,
-        English when that has no layout. A locale's name ("de_AT") means its language; another text changes
+        English when that has no layout. A locale's name ("de_AT", "de-AT") means its language; another text changes
         nothing.
     */
     Q_PROPERTY(QString language READ language WRITE setLanguage NOTIFY stateChanged)
@@ -78,6 +80,11 @@ class KeyboardPad : public QQuickItem
     Q_PROPERTY(bool wrapsVertically MEMBER m_wrapsVertically NOTIFY wrappingChanged)
     /*! The number of the current key, counted along the rows; by default the first letter's. */
     Q_PROPERTY(int currentKey READ currentKey WRITE setCurrentKey NOTIFY currentKeyChanged)
+    /*!
+        The line of text that is written into; none by default. The property "editing" of it is true while the
+        keyboard has the focus and can be seen.
+    */
+    Q_PROPERTY(QQuickItem *edited READ edited WRITE setEdited NOTIFY editedChanged)
     /*! How many keys there are. */
     Q_PROPERTY(int keyCount READ keyCount CONSTANT)
     QML_ELEMENT
@@ -92,6 +99,7 @@ public:
     bool isCapsLocked() const { return m_state.isCapsLocked(); }
     bool showsSymbols() const { return m_state.showsSymbols(); }
     int currentKey() const { return m_steering.key(); }
+    QQuickItem *edited() const { return m_edited; }
     static int keyCount() { return static_cast<int>(keyboardKeys().size()); }
 
     void setLanguage(const QString &language);
@@ -100,6 +108,7 @@ public:
     void setCapsLocked(bool locked);
     void setShowsSymbols(bool shows);
     void setCurrentKey(int key);
+    void setEdited(QQuickItem *edited);
 
     /*! Does what the key \a key does; it becomes the current one. */
     Q_INVOKABLE void pressKey(int key);
@@ -124,8 +133,10 @@ Q_SIGNALS:
     void stateChanged();
     void wrappingChanged();
     void currentKeyChanged();
+    void editedChanged();
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void updatePolish() override;
     void itemChange(ItemChange change, const ItemChangeData &data) override;
@@ -134,6 +145,8 @@ private:
     template <typename Change>
     void changeState(Change change);
     void updateImplicitSize();
+    void followLanguageIn(QQuickWindow *window);
+    void tellEdited(bool isEdited);
     void giveFocus();
     void act(KeyKind kind, const QString &text);
     bool steer(int key);
@@ -165,6 +178,8 @@ private:
 
     KeyboardState m_state;
     KeyboardSteering m_steering;
+    QPointer<QQuickItem> m_edited;
+    QPointer<QQuickWindow> m_window;
     QList<KeyboardKey *> m_keys; //!< in no particular order; not owned
 };
 

@@ -266,7 +266,8 @@ private Q_SLOTS:
         QVERIFY(scene.press(Qt::Key_7, u"7"_s));
         QVERIFY(scene.press(Qt::Key_Backspace, u"\b"_s));
         QVERIFY(!scene.press(Qt::Key_Delete, u"\x7f"_s));
-        QCOMPARE(texts(typed), QStringList({ u"a"_s, u" "_s, u"7"_s }));
+        QVERIFY(scene.press(Qt::Key_unknown, u"\U0001F3AC"_s)); // beyond the first plane
+        QCOMPARE(texts(typed), QStringList({ u"a"_s, u" "_s, u"7"_s, u"\U0001F3AC"_s }));
         QCOMPARE(erased.size(), 1);
     }
 

@@ -63,6 +63,70 @@ private Q_SLOTS:
         QCOMPARE(scene.line()->property("editing").toBool(), false);
     }
 
+    void aTargetThatIsGivenUpIsNotBeingEdited_data()
+    {
+        QTest::addColumn<QString>("how");
+        QTest::newRow("the keyboard is hidden") << u"hidden"_s;
+        QTest::newRow("the keyboard is destroyed") << u"destroyed"_s;
+    }
+
+    void aTargetThatIsGivenUpIsNotBeingEdited()
+    {
+        QFETCH(QString, how);
+        KeyboardScene scene;
+        QVERIFY(scene.showLineAndKeyboard({}));
+        QCOMPARE(scene.line()->property("editing").toBool(), true);
+        if (how == u"hidden")
+            scene.keyboard()->setVisible(false);
+        else
+            delete scene.keyboard();
+        QCOMPARE(scene.line()->property("editing").toBool(), false);
+    }
+
+    void aKeyboardThatComesBackEditsAgain()
+    {
+        KeyboardScene scene;
+        QVERIFY(scene.showLineAndKeyboard({}));
+        scene.keyboard()->setVisible(false);
+        scene.keyboard()->setVisible(true);
+        QCOMPARE(scene.line()->property("editing").toBool(), true);
+    }
+
+    void aTargetMayGoBeforeTheKeyboard()
+    {
+        KeyboardScene scene;
+        QVERIFY(scene.showLineAndKeyboard({}));
+        delete scene.line();
+        scene.press(Qt::Key_Return);
+        scene.item->findChild<QQuickItem *>(u"other"_s)->forceActiveFocus();
+        QVERIFY(!scene.keyboard()->hasActiveFocus());
+    }
+
+    void aKeyboardThatIsHiddenOrDisabledTypesNothing_data()
+    {
+        QTest::addColumn<QByteArray>("property");
+        QTest::newRow("hidden") << QByteArray("visible");
+        QTest::newRow("disabled") << QByteArray("enabled");
+    }
+
+    void aKeyboardThatIsHiddenOrDisabledTypesNothing()
+    {
+        QFETCH(QByteArray, property);
+        KeyboardScene scene;
+        QVERIFY(scene.showLineAndKeyboard({}));
+        QSignalSpy typed(scene.keyboard(), &KeyboardPad::textEntered);
+        scene.keyboard()->setProperty(property, false);
+        QVERIFY(!scene.press(Qt::Key_Return));
+        QVERIFY(!scene.press(Qt::Key_A, u"a"_s));
+        QVERIFY(!scene.press(Qt::Key_Right));
+        scene.keyboard()->pressKey(13);
+        QCOMPARE(texts(typed), QStringList());
+        QCOMPARE(scene.keyboard()->currentKey(), firstLetter);
+        scene.keyboard()->setProperty(property, true);
+        scene.keyboard()->pressKey(13);
+        QCOMPARE(texts(typed), QStringList { u"w"_s });
+    }
+
     void withoutTargetNothingIsWritten()
     {
         KeyboardScene scene;
@@ -165,6 +229,24 @@ private Q_SLOTS:
         QCOMPARE(capitals.asked, QSet<QString>({ u"Keyboard"_s, u"Space"_s, u"Backspace"_s, u"Cursor left"_s,
                                                  u"Cursor right"_s, u"Shift"_s, u"Caps lock"_s, u"Symbols"_s,
                                                  u"Language: %1"_s }));
+    }
+
+    void theNamesFollowAChangeOfTheTranslator()
+    {
+        KeyboardScene scene;
+        QVERIFY(scene.showKeyboard());
+        QCOMPARE(stbtest::accessible(scene.key(space))->text(QAccessible::Name), u"Space"_s);
+        const QImage before = scene.stage.picture();
+        Capitals capitals;
+        QCoreApplication::installTranslator(&capitals);
+        QCoreApplication::sendPostedEvents();
+        scene.stage.renderFrame();
+        QCOMPARE(stbtest::accessible(scene.key(space))->text(QAccessible::Name), u"SPACE"_s);
+        QVERIFY(scene.stage.picture() != before);
+        QCoreApplication::removeTranslator(&capitals);
+        QCoreApplication::sendPostedEvents();
+        scene.stage.renderFrame();
+        QCOMPARE(scene.stage.picture(), before);
     }
 
     void shiftAndCapsLockTellWhetherTheyAreOn()

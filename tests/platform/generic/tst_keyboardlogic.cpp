@@ -167,6 +167,8 @@ private Q_SLOTS:
         QTest::addColumn<int>("layout");
         QTest::newRow("language") << u"ru"_s << 1;
         QTest::newRow("locale") << u"de_AT"_s << 2;
+        QTest::newRow("locale with a hyphen") << u"de-AT"_s << 2;
+        QTest::newRow("script and territory") << u"ar-Arab_EG"_s << 3;
         QTest::newRow("unknown") << u"fr_FR"_s << -1;
         QTest::newRow("only the beginning") << u"arn"_s << -1;
         QTest::newRow("empty") << QString() << -1;
