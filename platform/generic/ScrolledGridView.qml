@@ -4,8 +4,10 @@ import QtQuick.Templates as T
 import Stbui.UI.Qml.Controls.Generic
 
 // A GridView for a remote control, scrolled up and down: each press of an arrow key, and each repetition of a key
-// that is held, goes on by one item; the current item stays in view and within the margins. Delegates are of the
-// size itemWidth x itemHeight; spacing comes between them and takes no room at the end of a row.
+// that is held, goes on by one item; the current item stays in view and within the margins. Down goes to the last item
+// where the last row has none below the current one. At the edges the keys are left to others, at the sides too: no
+// row goes on in the next one unless keyNavigationWraps is true. Delegates are of the size itemWidth x itemHeight;
+// spacing comes between them and takes no room at the end of a row.
 // highlightMoveDuration is about how long the view takes to follow by a step (milliseconds; 0 follows at once).
 // Lengths are pixels.
 //
@@ -75,6 +77,9 @@ FocusScope {
         T.ScrollBar.vertical: control.scrollBar
     }
     FollowCurrentItem {
+        view: grid
+    }
+    GridSteering {
         view: grid
     }
     // Beside the last column, in the margin as far as that is wide enough.

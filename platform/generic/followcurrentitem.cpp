@@ -18,7 +18,7 @@ void FollowCurrentItem::setView(QQuickItem *view)
 
 void FollowCurrentItem::follow()
 {
-    if (!m_view)
+    if (!m_view || !m_view->property("highlightFollowsCurrentItem").toBool())
         return;
     // Switched on, the view looks where its current item is.
     m_view->setProperty("highlightFollowsCurrentItem", false);

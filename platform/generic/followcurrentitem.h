@@ -11,7 +11,8 @@ namespace stbgeneric {
 
 /*!
     Lets a ListView or GridView bring its current item into view after items have come or gone. By itself a view
-    whose highlightMoveDuration is 0 does that only when another item becomes the current one.
+    whose highlightMoveDuration is 0 does that only when another item becomes the current one. A view that is told
+    not to follow (highlightFollowsCurrentItem is false) is left where it is.
 */
 class FollowCurrentItem : public QObject
 {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "generic/gridsteering.h"
 #include "scrolledscene.h"
 #include "testkit/pictures.h"
 #include "testkit/testcase.h"
@@ -76,6 +77,89 @@ private Q_SLOTS:
         QVERIFY(!scene.press(Qt::Key_Left));
         scene.hold(Qt::Key_Down, 3);
         QCOMPARE(scene.current(), 16);
+    }
+
+    void downFromAboveTheGapOfAShortRowLeadsToTheLastItem()
+    {
+        ScrolledScene scene;
+        QVERIFY(scene.showGrid({}, 10)); // rows of 4, 4 and 2
+        const QList<std::pair<int, int>> steps { { 4, 8 }, { 5, 9 }, { 6, 9 }, { 7, 9 } };
+        for (const auto &[from, to] : steps) {
+            scene.goTo(from);
+            QVERIFY(scene.press(Qt::Key_Down));
+            QCOMPARE(scene.current(), to);
+            QVERIFY(!scene.press(Qt::Key_Down));
+            QCOMPARE(scene.current(), to);
+        }
+        scene.goTo(2);
+        scene.hold(Qt::Key_Down, 3);
+        QCOMPARE(scene.current(), 9);
+    }
+
+    void atTheSidesTheFocusLeavesInsteadOfGoingOnInAnotherRow_data()
+    {
+        QTest::addColumn<QString>("properties");
+        QTest::addColumn<Qt::Key>("toFirst");
+        QTest::addColumn<Qt::Key>("toLast");
+        QTest::newRow("as it is") << QString() << Qt::Key_Left << Qt::Key_Right;
+        QTest::newRow("mirrored") << u"LayoutMirroring.enabled: true; LayoutMirroring.childrenInherit: true"_s
+                                  << Qt::Key_Right << Qt::Key_Left;
+    }
+
+    void atTheSidesTheFocusLeavesInsteadOfGoingOnInAnotherRow()
+    {
+        QFETCH(QString, properties);
+        QFETCH(Qt::Key, toFirst);
+        QFETCH(Qt::Key, toLast);
+        ScrolledScene scene;
+        QVERIFY(scene.showGrid(properties, 10));
+        const QList<std::pair<int, Qt::Key>> edges { { 0, toFirst }, { 4, toFirst }, { 8, toFirst },
+                                                     { 3, toLast },  { 7, toLast },  { 9, toLast } };
+        for (const auto &[index, key] : edges) {
+            scene.goTo(index);
+            QVERIFY(!scene.press(key));
+            QCOMPARE(scene.current(), index);
+        }
+        scene.goTo(5);
+        QVERIFY(scene.press(toFirst));
+        QCOMPARE(scene.current(), 4);
+    }
+
+    void aGridThatWrapsGoesOnInTheNextRow()
+    {
+        ScrolledScene scene;
+        QVERIFY(scene.showGrid(u"keyNavigationWraps: true"_s, 10));
+        scene.goTo(3);
+        QVERIFY(scene.press(Qt::Key_Right));
+        QCOMPARE(scene.current(), 4);
+        QVERIFY(scene.press(Qt::Key_Left));
+        QCOMPARE(scene.current(), 3);
+        scene.goTo(6);
+        QVERIFY(scene.press(Qt::Key_Down));
+        QCOMPARE(scene.current(), 9);
+    }
+
+    void aGridWithoutKeysTakesNone()
+    {
+        ScrolledScene scene;
+        QVERIFY(scene.showGrid({}, 10));
+        scene.item->property("view").value<QObject *>()->setProperty("keyNavigationEnabled", false);
+        scene.goTo(6);
+        QVERIFY(!scene.press(Qt::Key_Down));
+        QCOMPARE(scene.current(), 6);
+    }
+
+    void anEmptyGridAndASingleColumnHaveNoGap()
+    {
+        using stbgeneric::GridStep;
+        using stbgeneric::gridStep;
+        QCOMPARE(gridStep(Qt::Key_Down, -1, 0, 4, false), GridStep::Usual);
+        QCOMPARE(gridStep(Qt::Key_Down, -1, 5, 4, false), GridStep::Usual); // no item is current
+        QCOMPARE(gridStep(Qt::Key_Down, 0, 3, 0, false), GridStep::Usual);
+        QCOMPARE(gridStep(Qt::Key_Down, 1, 3, 1, false), GridStep::Usual);
+        QCOMPARE(gridStep(Qt::Key_Left, 1, 3, 1, false), GridStep::Leave);
+        QCOMPARE(gridStep(Qt::Key_Right, 1, 3, 1, false), GridStep::Leave);
+        QCOMPARE(gridStep(Qt::Key_Up, 6, 10, 4, false), GridStep::Usual);
     }
 
     void theGridItselfCanBeReached()

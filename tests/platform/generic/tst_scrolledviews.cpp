@@ -176,6 +176,18 @@ private Q_SLOTS:
 
     // --- movement ---
 
+    void aViewThatIsToldNotToFollowStaysWhereItIs()
+    {
+        ScrolledScene scene;
+        QVERIFY(scene.showList(u"highlightFollowsCurrentItem: false"_s));
+        scene.goTo(19);
+        const double before = scene.item->property("contentY").toDouble();
+        scene.item->setProperty("model", 25);
+        scene.settle();
+        QCOMPARE(scene.item->property("highlightFollowsCurrentItem").toBool(), false);
+        QCOMPARE(scene.item->property("contentY").toDouble(), before);
+    }
+
     void theViewTakesItsTimeToFollow()
     {
         ScrolledScene scene;
