@@ -4,8 +4,8 @@ import Stbui.UI.Qml.Controls.Generic
 
 // An entry of the main menu: a picture in the text's colour, a text, and a picture in colours of its own (such as
 // a portrait). Whoever owns the menu says which entry is checked; OK only emits clicked(). The background may be
-// higher than the button, which keeps its place. A button that is switched off is half transparent. Lengths are
-// pixels.
+// higher than the button, which keeps its place. A text that has no room is elided. A button that is switched off is
+// half transparent. Lengths are pixels.
 Pressable {
     id: control
 
@@ -35,7 +35,7 @@ Pressable {
     property real topPadding: 0
     property real bottomPadding: 0
 
-    implicitWidth: leftPadding + parts.implicitWidth + rightPadding
+    implicitWidth: leftPadding + parts.pictureRoom + (text !== "" ? title.implicitWidth : 0) + rightPadding
     implicitHeight: Math.max(baseHeight, topPadding + parts.implicitHeight + bottomPadding)
 
     Accessible.role: Accessible.Button
@@ -45,7 +45,7 @@ Pressable {
     Accessible.checkable: true
     Accessible.checked: checked
     Accessible.pressed: pressed
-    Accessible.onPressAction: clicked()
+    Accessible.onPressAction: click()
 
     Rectangle {
         anchors.centerIn: parent
@@ -64,6 +64,14 @@ Pressable {
     Row {
         id: parts
 
+        // What the pictures take, with the spacing beside each.
+        readonly property real pictureRoom: leftRoom + rightRoom
+        readonly property real leftRoom: control.leftIconPath === "" ? 0 : control.leftIconSize.width
+                                         + (control.text !== "" || control.rightIconPath !== "" ? spacing : 0)
+        readonly property real rightRoom: control.rightIconPath === "" ? 0 : control.rightIconSize.width
+                                          + (control.text !== "" ? spacing : 0)
+        readonly property real titleRoom: control.width - control.leftPadding - control.rightPadding - pictureRoom
+
         anchors.verticalCenter: parent.verticalCenter
         anchors.verticalCenterOffset: (control.topPadding - control.bottomPadding) / 2
         anchors.horizontalCenter: parent.horizontalCenter
@@ -80,12 +88,16 @@ Pressable {
             color: ColorsByState.ofMenuButton(control.leftIconColors, control.checked, control.focused)
         }
         Text {
+            id: title
+
             anchors.verticalCenter: parent.verticalCenter
+            width: Math.max(0, Math.min(implicitWidth, parts.titleRoom))
             visible: text !== ""
             text: control.text
             textFormat: Text.PlainText
             font: control.textFont
             color: ColorsByState.ofMenuButton(control.textColors, control.checked, control.focused)
+            elide: Text.ElideRight
 
             Behavior on color {
                 enabled: control.animateTextColors

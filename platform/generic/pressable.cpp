@@ -13,6 +13,12 @@ Pressable::Pressable(QQuickItem *parent)
     setAcceptedMouseButtons(Qt::LeftButton);
 }
 
+void Pressable::click()
+{
+    if (isEnabled() && isVisible())
+        Q_EMIT clicked();
+}
+
 void Pressable::keyPressEvent(QKeyEvent *event)
 {
     event->setAccepted(isOkKey(event->key()));

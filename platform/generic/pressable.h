@@ -24,6 +24,9 @@ public:
 
     bool isPressed() const { return m_pressed; }
 
+    /*! A click by other means, such as an assistive program; none while the item is disabled or hidden. */
+    Q_INVOKABLE void click();
+
 Q_SIGNALS:
     void pressedChanged();
     /*! A press that began on the item was released on it. pressed is false by then. */

@@ -113,6 +113,35 @@ private Q_SLOTS:
         QCOMPARE(clicked.count(), 0);
     }
 
+    void aDisabledButtonIsNotPressedByAnAssistiveProgramEither()
+    {
+        QAccessible::setActive(true);
+        GenericScene scene(menu());
+        QSignalSpy clicked(scene.item.get(), SIGNAL(clicked()));
+        auto *button = QAccessible::queryAccessibleInterface(scene.item.get());
+        QVERIFY(button && button->actionInterface());
+        button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(clicked.count(), 1);
+        for (const char *property : { "enabled", "visible" }) {
+            scene.item->setProperty(property, false);
+            button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+            QCOMPARE(clicked.count(), 1);
+            scene.item->setProperty(property, true);
+        }
+        QAccessible::setActive(false);
+    }
+
+    void aTabThatIsHiddenWhileItIsPressedIsNotSelected()
+    {
+        GenericScene scene(tab());
+        scene.item->forceActiveFocus();
+        scene.press(Qt::Key_Return);
+        scene.item->setVisible(false);
+        QCOMPARE(scene.item->property("pressed"), QVariant(false));
+        scene.release(Qt::Key_Return);
+        QCOMPARE(scene.item->property("checked"), QVariant(false));
+    }
+
     void theMouseClicksAndTakesTheFocus()
     {
         GenericScene scene(menu());
@@ -184,6 +213,40 @@ private Q_SLOTS:
         GenericScene icons(menu("leftIconPath: ':/icons/mark.png'; leftIconSize: Qt.size(19, 21)\n"
                                 "rightIconPath: ':/icons/wide.png'; rightIconSize: Qt.size(23, 23)"));
         QCOMPARE(icons.item->implicitWidth(), 28.0 + 19 + 7 + title + 7 + 23);
+    }
+
+    void aTextWithoutRoomIsElidedBetweenThePictures_data()
+    {
+        QTest::addColumn<QString>("pictures");
+        QTest::addColumn<int>("room"); // of 121 - 11 - 17
+        QTest::newRow("none") << "" << 93;
+        QTest::newRow("left") << "leftIconPath: ':/icons/mark.png'; leftIconSize: Qt.size(21, 21)" << 93 - 28;
+        QTest::newRow("right") << "rightIconPath: ':/icons/mark.png'; rightIconSize: Qt.size(19, 19)"
+                               << 93 - 26;
+        QTest::newRow("both") << "leftIconPath: ':/icons/mark.png'; leftIconSize: Qt.size(21, 21)\n"
+                                 "rightIconPath: ':/icons/mark.png'; rightIconSize: Qt.size(19, 19)"
+                              << 93 - 28 - 26;
+    }
+    void aTextWithoutRoomIsElidedBetweenThePictures()
+    {
+        QFETCH(QString, pictures);
+        QFETCH(int, room);
+        QString look = menuLook;
+        GenericScene scene("MainMenuButton { " + look.replace("'Menu'", "'The menu of the whole house'")
+                           + pictures + "}");
+        QVERIFY(scene.item);
+        scene.stage.renderFrame();
+        const QQuickItem *title = titleOf(scene);
+        QCOMPARE(title->width(), room);
+        QVERIFY(title->property("truncated").toBool());
+        QCOMPARE(title->parentItem()->mapRectToItem(scene.item.get(), title->parentItem()->boundingRect()).x(),
+                 11.0);
+        QVERIFY(scene.item->implicitWidth() > 200);
+        scene.item->setWidth(scene.item->implicitWidth());
+        scene.stage.renderFrame();
+        QVERIFY(!title->property("truncated").toBool());
+        scene.item->setWidth(20);
+        QCOMPARE(title->width(), 0.0);
     }
 
     void theRightPictureKeepsItsColoursAndIsRound()
