@@ -24,7 +24,10 @@ namespace {
     QT_TRANSLATE_NOOP("stbui::EpgListModel", "ON"),
     //: Status: this programme plays now
     QT_TRANSLATE_NOOP("stbui::EpgListModel", "PLAYING"),
-    // What the on-screen keyboard and the views say.
+    // What the controls say where nobody gave them a word, the on-screen keyboard and the views.
+    QT_TRANSLATE_NOOP("BusyIndicator", "Please wait"),
+    QT_TRANSLATE_NOOP("CircleProgressBar", "Progress"),
+    QT_TRANSLATE_NOOP("LineEdit", "Text field"),
     QT_TRANSLATE_NOOP("Keyboard", "Keyboard"),
     QT_TRANSLATE_NOOP("ScrollBar", "Scroll bar"),
     QT_TRANSLATE_NOOP("ScrolledGridView", "Grid"),

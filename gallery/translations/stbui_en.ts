@@ -82,6 +82,13 @@
     </message>
 </context>
 <context>
+    <name>BusyIndicator</name>
+    <message>
+        <source>Please wait</source>
+        <translation>Please wait</translation>
+    </message>
+</context>
+<context>
     <name>ChannelFacts</name>
     <message>
         <source>Nothing is known of what is on</source>
@@ -131,6 +138,13 @@
     <message>
         <source>Leave</source>
         <translation>Leave</translation>
+    </message>
+</context>
+<context>
+    <name>CircleProgressBar</name>
+    <message>
+        <source>Progress</source>
+        <translation>Progress</translation>
     </message>
 </context>
 <context>
@@ -419,6 +433,13 @@
     <message>
         <source>Keyboard</source>
         <translation>Keyboard</translation>
+    </message>
+</context>
+<context>
+    <name>LineEdit</name>
+    <message>
+        <source>Text field</source>
+        <translation>Text field</translation>
     </message>
 </context>
 <context>

@@ -82,6 +82,13 @@
     </message>
 </context>
 <context>
+    <name>BusyIndicator</name>
+    <message>
+        <source>Please wait</source>
+        <translation>Подождите</translation>
+    </message>
+</context>
+<context>
     <name>ChannelFacts</name>
     <message>
         <source>Nothing is known of what is on</source>
@@ -131,6 +138,13 @@
     <message>
         <source>Leave</source>
         <translation>Выйти</translation>
+    </message>
+</context>
+<context>
+    <name>CircleProgressBar</name>
+    <message>
+        <source>Progress</source>
+        <translation>Ход выполнения</translation>
     </message>
 </context>
 <context>
@@ -419,6 +433,13 @@
     <message>
         <source>Keyboard</source>
         <translation>Клавиатура</translation>
+    </message>
+</context>
+<context>
+    <name>LineEdit</name>
+    <message>
+        <source>Text field</source>
+        <translation>Текстовое поле</translation>
     </message>
 </context>
 <context>

@@ -34,7 +34,7 @@ Item {
     implicitHeight: parts.implicitHeight
 
     Accessible.role: Accessible.Indicator
-    Accessible.name: header
+    Accessible.name: header !== "" ? header : qsTr("Please wait")
     Accessible.description: description
     Accessible.ignored: !running
 

@@ -12,5 +12,6 @@ ProgressCircle {
     implicitHeight: 96
 
     Accessible.role: Accessible.ProgressBar
+    Accessible.name: qsTr("Progress")
     Accessible.description: Math.round(position * 100) + "%"
 }

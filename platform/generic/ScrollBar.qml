@@ -7,10 +7,15 @@ import QtQuick.Templates as T
 T.ScrollBar {
     id: control
 
-    property color backgroundColor: "transparent"
+    property color backgroundColor: Qt.alpha(sliderColor, 0.3)
     property color sliderColor: "gray"
     property real thickness: 6 // pixels across
     property real roundingRadius: 0
+
+    // What assistive programs read: how far the view can scroll, and has scrolled, as shares of its content.
+    readonly property real minimumValue: 0
+    readonly property real maximumValue: Math.max(0, 1 - size)
+    readonly property real value: position
 
     implicitWidth: leftPadding + implicitContentWidth + rightPadding
     implicitHeight: topPadding + implicitContentHeight + bottomPadding

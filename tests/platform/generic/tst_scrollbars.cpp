@@ -94,13 +94,25 @@ private Q_SLOTS:
     void aScrollBarStandsAlone()
     {
         ScrolledScene scene;
-        QVERIFY(scene.show(u"ScrollBar { height: 100; size: 0.25; position: 0.5; sliderColor: 'red' }"_s));
+        QVERIFY(scene.show(u"ScrollBar { height: 100; size: 0.25; position: 0.5; sliderColor: 'red'\n"
+                           "backgroundColor: 'transparent' }"_s));
         QVERIFY(scene.item->isVisible());
         QCOMPARE(scene.item->width(), 6);
         QCOMPARE(scene.stage.picture().pixelColor(3, 51), QColor(Qt::red));
         QCOMPARE(scene.stage.picture().pixelColor(3, 73), QColor(Qt::red));
         QCOMPARE(scene.stage.picture().pixelColor(3, 48), QColor(16, 20, 28));
         QCOMPARE(scene.stage.picture().pixelColor(3, 77), QColor(16, 20, 28));
+    }
+
+    void byItselfAScrollBarRunsOnAPalerTrack()
+    {
+        ScrolledScene scene;
+        QVERIFY(scene.show(u"ScrollBar { height: 100; size: 0.25; position: 0.5 }"_s));
+        const QColor slider = scene.stage.picture().pixelColor(3, 60);
+        const QColor track = scene.stage.picture().pixelColor(3, 20);
+        QCOMPARE(slider, QColor("gray"));
+        QVERIFY(track.lightness() > QColor(16, 20, 28).lightness() + 15);
+        QVERIFY(track.lightness() < slider.lightness() - 40);
     }
 
     void aScrollBarWithAPolicyIsShownOrNot()
@@ -143,6 +155,19 @@ private Q_SLOTS:
         QVERIFY(bar);
         QCOMPARE(bar->role(), QAccessible::ScrollBar);
         QCOMPARE(bar->text(QAccessible::Name), u"Scroll bar"_s);
+    }
+
+    void aScrollBarSaysHowFarTheViewHasScrolled()
+    {
+        ScrolledScene scene;
+        QVERIFY(scene.show(u"ScrollBar { height: 100; size: 0.25; position: 0.5 }"_s));
+        QAccessibleInterface *bar = stbtest::accessible(scene.item.get());
+        QVERIFY(bar && bar->valueInterface());
+        QCOMPARE(bar->valueInterface()->minimumValue().toDouble(), 0.0);
+        QCOMPARE(bar->valueInterface()->maximumValue().toDouble(), 0.75);
+        QCOMPARE(bar->valueInterface()->currentValue().toDouble(), 0.5);
+        scene.item->setProperty("size", 1.5);
+        QCOMPARE(bar->valueInterface()->maximumValue().toDouble(), 0.0);
     }
 };
 
