@@ -3,6 +3,7 @@
 
 #include <QtCore/qcoreevent.h>
 #include <QtGui/qpainter.h>
+#include <QtQuick/qquickwindow.h>
 
 #include <algorithm>
 
@@ -84,7 +85,22 @@ void Throbber::setTrackColor(const QColor &color)
 void Throbber::step()
 {
     m_time = (m_time + std::max(m_interval, 0)) % turn;
-    update();
+    if (canBeSeen())
+        update();
+}
+
+bool Throbber::canBeSeen() const
+{
+    QRectF seen = boundingRect();
+    const QQuickItem *item = this;
+    for (; item->parentItem(); item = item->parentItem()) {
+        if (item->clip())
+            seen &= item->clipRect();
+        if (item->opacity() <= 0 || seen.isEmpty())
+            return false;
+        seen = item->mapRectToItem(item->parentItem(), seen);
+    }
+    return !window() || seen.intersects(QRectF(QPointF(), window()->size()));
 }
 
 void Throbber::paint(QPainter *painter)
@@ -117,8 +133,14 @@ void Throbber::componentComplete()
 void Throbber::itemChange(ItemChange change, const ItemChangeData &data)
 {
     QQuickPaintedItem::itemChange(change, data);
-    if (change == ItemVisibleHasChanged || change == ItemSceneChange)
+    if (change == ItemVisibleHasChanged || change == ItemSceneChange || change == ItemOpacityHasChanged)
         updateTimer();
+}
+
+void Throbber::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
+{
+    QQuickPaintedItem::geometryChange(newGeometry, oldGeometry);
+    updateTimer();
 }
 
 void Throbber::timerEvent(QTimerEvent *event)
@@ -131,7 +153,8 @@ void Throbber::timerEvent(QTimerEvent *event)
 
 void Throbber::updateTimer()
 {
-    const bool turns = m_running && m_interval > 0 && isComponentComplete() && window() && isVisible();
+    const bool isThere = isVisible() && opacity() > 0 && width() > 0 && height() > 0;
+    const bool turns = m_running && m_interval > 0 && isComponentComplete() && window() && isThere;
     if (turns && !m_timer.isActive())
         m_timer.start(m_interval, this);
     else if (!turns)

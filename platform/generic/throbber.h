@@ -11,8 +11,9 @@ namespace stbgeneric {
 
 /*!
     An arc with a fading tail that turns clockwise on a ring, in the middle of the item and as large as the
-    shorter side allows. There is a timer only while it runs in a window and can be seen; each step paints the
-    item's own rectangle.
+    shorter side allows. There is a timer only while it runs in a window, is visible, and neither empty nor clear
+    (opacity 0); each step paints the item's own rectangle. A step that nobody can see, because the item is outside the
+    window or of what clips it, or something around it is clear, paints nothing.
 */
 class Throbber : public QQuickPaintedItem
 {
@@ -42,7 +43,7 @@ public:
     void setColor(const QColor &color);
     void setTrackColor(const QColor &color);
 
-    /*! Whether steps are being made: it runs, is in a window and can be seen. */
+    /*! Whether steps are being made: it runs in a window, is visible, and neither empty nor clear. */
     bool isTurning() const { return m_timer.isActive(); }
 
     /*! Goes on by one step, as the timer does. */
@@ -60,9 +61,11 @@ Q_SIGNALS:
 protected:
     void componentComplete() override;
     void itemChange(ItemChange change, const ItemChangeData &data) override;
+    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
     void timerEvent(QTimerEvent *event) override;
 
 private:
+    bool canBeSeen() const;
     void updateTimer();
 
     QBasicTimer m_timer;

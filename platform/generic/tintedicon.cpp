@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tintedicon.h"
 
+#include <QtCore/qset.h>
 #include <QtGui/qpainter.h>
 #include <QtGui/qpainterpath.h>
 #include <QtGui/qpixmapcache.h>
@@ -18,6 +19,15 @@ QString localPath(const QString &path)
 {
     const QString local = QQmlFile::urlToLocalFileOrQrc(path);
     return local.isEmpty() ? path : local;
+}
+
+/*! Whether \a path has yet to be complained about. */
+bool isNewComplaint(const QString &path)
+{
+    static QSet<QString> told;
+    const qsizetype before = told.size();
+    told.insert(path);
+    return told.size() > before;
 }
 
 QImage compose(const QImage &source, const QSize &size, const QColor &color, qreal radius)
@@ -152,7 +162,8 @@ QImage TintedIcon::makePicture()
     const QImage source(localPath(m_path));
     m_isUnreadable = source.isNull();
     if (m_isUnreadable) {
-        qmlWarning(this) << "Cannot open: " << m_path;
+        if (isNewComplaint(m_path))
+            qmlWarning(this) << "Cannot open: " << m_path;
         return {};
     }
     // QImage's own function for this has another name from Qt 6.9 on.

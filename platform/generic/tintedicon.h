@@ -13,7 +13,7 @@ namespace stbgeneric {
 /*!
     A picture from a resource or a local file, scaled to the item's size and painted in one colour. It is read
     when it is first seen; icons that are alike share their pixels. One that cannot be read is a warning with the
-    path, once for each path given, and shows nothing.
+    path, once for all icons, and shows nothing.
 */
 class TintedIcon : public QQuickItem
 {

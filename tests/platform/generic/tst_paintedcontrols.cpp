@@ -6,12 +6,8 @@
 #include <generic/horizontalfadeeffect.h>
 #include <generic/progresscircle.h>
 #include <generic/throbber.h>
-#include <generic/tintedicon.h>
 
-#include <QtCore/qfile.h>
-#include <QtCore/qtemporarydir.h>
 #include <QtGui/qaccessible.h>
-#include <QtGui/qpixmapcache.h>
 #include <QtTest/qsignalspy.h>
 
 using stbgeneric::Throbber;
@@ -24,20 +20,12 @@ int blackness(const QColor &color)
     return 100 - qRound(color.red() / 2.55);
 }
 
-const QString icon = QStringLiteral("TintedIcon { width: 20; height: 20; path: ':/icons/wide.png'\n");
-
 } // namespace
 
 class tst_PaintedControls : public stbtest::TestCase
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init()
-    {
-        stbtest::TestCase::init();
-        QPixmapCache::clear();
-    }
-
     // --- the busy indicator and its arc ---
 
     void theArcTurnsOnlyWhileItRunsInAWindowAndIsSeen()
@@ -63,6 +51,51 @@ private Q_SLOTS:
         QVERIFY(arc->isTurning());
         scene.item->setParentItem(nullptr);
         QVERIFY(!arc->isTurning());
+    }
+
+    void theArcStandsStillWhileItIsEmptyOrClear()
+    {
+        GenericScene scene("Throbber { width: 40; height: 40 }");
+        auto *arc = qobject_cast<Throbber *>(scene.item.get());
+        QVERIFY(arc->isTurning());
+        for (const char *property : { "opacity", "width", "height" }) {
+            const QVariant before = arc->property(property);
+            arc->setProperty(property, 0);
+            QVERIFY2(!arc->isTurning(), property);
+            arc->setProperty(property, before);
+            QVERIFY2(arc->isTurning(), property);
+        }
+    }
+
+    void aStepThatNobodyCanSeePaintsNothing_data()
+    {
+        QTest::addColumn<QByteArray>("property");
+        QTest::addColumn<QVariant>("hidden");
+        QTest::addColumn<QVariant>("shown");
+        QTest::newRow("something around it is clear")
+                << QByteArray("opacity") << QVariant(0) << QVariant(0.5);
+        QTest::newRow("outside the window") << QByteArray("x") << QVariant(400) << QVariant(390);
+        QTest::newRow("above the window") << QByteArray("y") << QVariant(-80) << QVariant(-70);
+        QTest::newRow("outside of what clips it") << QByteArray("clip") << QVariant(true) << QVariant(false);
+    }
+
+    void aStepThatNobodyCanSeePaintsNothing()
+    {
+        QFETCH(QByteArray, property);
+        QFETCH(QVariant, hidden);
+        QFETCH(QVariant, shown);
+        GenericScene scene(
+                "Item { width: 40; height: 40; Throbber { y: 40; width: 40; height: 40; interval: 400 } }");
+        auto *arc = qobject_cast<Throbber *>(scene.item->childItems().first());
+        QVERIFY(arc);
+        QVERIFY(scene.item->setProperty(property, hidden));
+        scene.stage.renderFrame();
+        arc->step();
+        QVERIFY(scene.stage.renderFrame().isEmpty());
+        QVERIFY(scene.item->setProperty(property, shown));
+        scene.stage.renderFrame();
+        arc->step();
+        QVERIFY(!scene.stage.renderFrame().isEmpty());
     }
 
     void aStepTurnsTheArcAndPaintsItsOwnRectangle()
@@ -193,6 +226,20 @@ private Q_SLOTS:
         QAccessible::setActive(false);
     }
 
+    void controlsWithoutWordsHaveNames()
+    {
+        QAccessible::setActive(true);
+        GenericScene scene("Item { CircleProgressBar { from: 10; to: 90; value: 37 } BusyIndicator {} }");
+        auto *bar = QAccessible::queryAccessibleInterface(scene.item->childItems().first());
+        QCOMPARE(bar->text(QAccessible::Name), "Progress");
+        QQuickItem *indicator = scene.item->childItems().last();
+        const auto *busy = QAccessible::queryAccessibleInterface(indicator);
+        QCOMPARE(busy->text(QAccessible::Name), "Please wait");
+        indicator->setProperty("header", "Loading");
+        QCOMPARE(busy->text(QAccessible::Name), "Loading");
+        QAccessible::setActive(false);
+    }
+
     // --- the fade ---
 
     void theEdgesFadeIntoTheColour()
@@ -265,91 +312,6 @@ private Q_SLOTS:
         scene.item->setProperty("color", QColor());
         scene.stage.renderFrame();
         QCOMPARE(scene.pixel(19, 10), QColor(Qt::white));
-    }
-
-    // --- icons ---
-
-    void anIconIsShownWholeAndInItsOwnColours()
-    {
-        GenericScene scene(icon + "}");
-        scene.stage.renderFrame();
-        QCOMPARE(scene.pixel(2, 10), QColor(Qt::red));
-        QCOMPARE(scene.pixel(17, 10), QColor(Qt::blue));
-        QCOMPARE(scene.pixel(2, 3), QColor(Qt::white)); // it is half as high as wide
-        QCOMPARE(scene.pixel(2, 16), QColor(Qt::white));
-    }
-
-    void anIconTakesTheColour()
-    {
-        GenericScene scene(icon + "color: '#00c000' }");
-        scene.stage.renderFrame();
-        QCOMPARE(scene.pixel(2, 10), QColor("#00c000"));
-        QCOMPARE(scene.pixel(17, 10), QColor("#00c000"));
-        QCOMPARE(scene.pixel(2, 3), QColor(Qt::white));
-        scene.item->setProperty("color", QColor("#8000ff"));
-        QCOMPARE(scene.stage.renderFrame().boundingRect(), QRect(0, 0, 20, 20));
-        QCOMPARE(scene.pixel(2, 10), QColor("#8000ff"));
-    }
-
-    void aRoundIconFillsItsPlace()
-    {
-        GenericScene scene(icon + "radius: 10 }");
-        scene.stage.renderFrame();
-        QCOMPARE(scene.pixel(5, 4), QColor(Qt::red));
-        QCOMPARE(scene.pixel(14, 15), QColor(Qt::blue));
-        QCOMPARE(scene.pixel(1, 1), QColor(Qt::white));
-        QCOMPARE(scene.pixel(18, 18), QColor(Qt::white));
-    }
-
-    void anIconFollowsItsSizeAndPath()
-    {
-        GenericScene scene(icon + "}");
-        scene.stage.renderFrame();
-        scene.item->setSize(QSizeF(40, 20));
-        scene.stage.renderFrame();
-        QCOMPARE(scene.pixel(2, 2), QColor(Qt::red));
-        QCOMPARE(scene.pixel(38, 18), QColor(Qt::blue));
-        scene.item->setProperty("path", QString());
-        scene.stage.renderFrame();
-        QCOMPARE(scene.pixel(2, 2), QColor(Qt::white));
-        for (const char *path : { "qrc:/icons/wide.png", ":/icons/wide.png" }) {
-            scene.item->setProperty("path", path);
-            scene.stage.renderFrame();
-            QCOMPARE(scene.pixel(2, 2), QColor(Qt::red));
-        }
-        scene.item->update();
-        QVERIFY(scene.stage.renderFrame().isEmpty());
-    }
-
-    void iconsThatAreAlikeAreReadOnce()
-    {
-        const QTemporaryDir folder;
-        const QString path = folder.filePath("icon.png");
-        QVERIFY(QFile::copy(":/icons/wide.png", path));
-        GenericScene scene("Row { property string path; TintedIcon { path: parent.path }\n"
-                           "TintedIcon { path: parent.path; visible: false } }");
-        scene.item->setProperty("path", QUrl::fromLocalFile(path).toString());
-        scene.stage.renderFrame();
-        QVERIFY(QFile::remove(path));
-        scene.item->childItems().last()->setVisible(true);
-        scene.stage.renderFrame();
-        QCOMPARE(scene.pixel(26, 12), QColor(Qt::red));
-    }
-
-    void aMissingIconIsToldOnceAndOnlyWhenItIsSeen()
-    {
-        GenericScene scene("TintedIcon { visible: false; path: ':/icons/none.png' }");
-        scene.stage.renderFrame(); // says nothing
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("Cannot open: :/icons/none.png"));
-        scene.item->setVisible(true);
-        scene.stage.renderFrame();
-        scene.item->setProperty("color", QColor(Qt::red));
-        scene.item->setSize(QSizeF(30, 30));
-        scene.stage.renderFrame();
-        QCOMPARE(scene.pixel(10, 10), QColor(Qt::white));
-        scene.item->setProperty("path", ":/icons/mark.png");
-        scene.stage.renderFrame();
-        QCOMPARE(scene.pixel(15, 15), QColor(Qt::red));
     }
 };
 
