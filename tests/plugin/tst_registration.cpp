@@ -8,9 +8,36 @@
 #include <QtCore/qfileinfo.h>
 #include <QtCore/qjsonarray.h>
 #include <QtCore/qjsonobject.h>
+#include <QtCore/qmap.h>
 #include <QtCore/qpluginloader.h>
 #include <QtCore/qregularexpression.h>
+#include <QtCore/qsequentialiterable.h>
+#include <QtGui/qcolor.h>
 #include <QtQml/qqmlcomponent.h>
+
+namespace {
+
+const QMap<QString, QString> elements {
+    // by name: the class
+    { "Button", "StbButton" },
+    { "ButtonWithCheckIndicator", "StbButtonWithCheckIndicator" },
+    { "ContentTile", "StbContentTile" },
+    { "EpgDate", "StbEpgDate" },
+    { "EpgViewDelegate", "StbEpgViewDelegate" },
+    { "EpgViewDelegateFocused", "StbEpgViewDelegateFocused" },
+    { "EpisodesViewDelegate", "StbEpisodesViewDelegate" },
+    { "ExpandableTile", "StbExpandableTile" },
+    { "HorizontalEpgViewDelegate", "StbHorizontalEpgViewDelegate" },
+    { "TvChannelViewDelegate", "StbTvChannelViewDelegate" },
+    { "VodTile", "StbVodTile" },
+};
+
+const QStringList components { "BusyIndicator", "CheckBox",       "CircleProgressBar", "Keyboard",
+                               "LineEdit",      "MainMenuButton", "MainMenuEffect",    "MediaBlock",
+                               "MediaGridView", "MediaListView",  "PlayerButton",      "PrimaryButton",
+                               "RadioButton",   "ScrollBar",      "StandardButton",    "TabButton" };
+
+} // namespace
 
 class tst_Registration : public stbtest::TestCase
 {
@@ -43,59 +70,26 @@ private Q_SLOTS:
     void bothWaysToImportShowTheElements()
     {
         QFETCH(QString, import);
-        stbtest::MemoryConfiguration store;
+        const stbtest::MemoryConfiguration store;
         stbtest::QmlScene scene;
-        const auto row = scene.createItem(
-                import + "\nEpgViewDelegate { tvProgramIsFuture: QmlSettings.permanentAnimationsEnabled }");
-        QVERIFY(row);
-        QCOMPARE(QLatin1String(row->metaObject()->className()), QLatin1String("StbEpgViewDelegate"));
-        QCOMPARE(row->property("tvProgramIsFuture"), QVariant(true));
+        for (const QString &name : elements.keys() + components) {
+            const auto item = scene.createItem(import + '\n' + name + " {}");
+            QVERIFY2(item, qPrintable(name));
+            if (elements.contains(name))
+                QCOMPARE(QLatin1String(item->metaObject()->className()), elements.value(name));
+        }
+        const auto item = scene.createItem(import
+                                           + "\nButton { checked: QmlSettings.permanentAnimationsEnabled }");
+        QVERIFY(item);
+        QCOMPARE(item->property("checked"), QVariant(true));
     }
 
-    void everyElementHasItsName_data()
+    void everyComponentStandsInTheResources()
     {
-        QTest::addColumn<QString>("className");
-        QTest::newRow("Button") << "StbButton";
-        QTest::newRow("ButtonWithCheckIndicator") << "StbButtonWithCheckIndicator";
-        QTest::newRow("ContentTile") << "StbContentTile";
-        QTest::newRow("EpgDate") << "StbEpgDate";
-        QTest::newRow("EpgViewDelegate") << "StbEpgViewDelegate";
-        QTest::newRow("EpgViewDelegateFocused") << "StbEpgViewDelegateFocused";
-        QTest::newRow("EpisodesViewDelegate") << "StbEpisodesViewDelegate";
-        QTest::newRow("ExpandableTile") << "StbExpandableTile";
-        QTest::newRow("HorizontalEpgViewDelegate") << "StbHorizontalEpgViewDelegate";
-        QTest::newRow("TvChannelViewDelegate") << "StbTvChannelViewDelegate";
-        QTest::newRow("VodTile") << "StbVodTile";
-    }
-    void everyElementHasItsName()
-    {
-        QFETCH(QString, className);
-        stbtest::QmlScene scene;
-        const auto item = scene.createItem(QStringLiteral("import Stbui.UI.Qml.Controls.Basic\n%1 {}")
-                                                   .arg(QLatin1String(QTest::currentDataTag())));
-        QVERIFY(item);
-        QCOMPARE(QLatin1String(item->metaObject()->className()), className);
-    }
-
-    void everyComponentStandsInTheResourcesAndResolves_data()
-    {
-        QTest::addColumn<QString>("file");
-        for (const char *name :
-             { "BusyIndicator", "CheckBox", "CircleProgressBar", "Keyboard", "LineEdit", "MainMenuButton",
-               "MainMenuEffect", "MediaBlock", "MediaGridView", "MediaListView", "PrimaryButton",
-               "RadioButton", "ScrollBar", "StandardButton", "TabButton" })
-            QTest::newRow(name) << QStringLiteral("qml/%1.qml").arg(QLatin1String(name));
-        QTest::newRow("PlayerButton") << "qml/Experimental/PlayerButton.qml";
-    }
-    void everyComponentStandsInTheResourcesAndResolves()
-    {
-        QFETCH(QString, file);
-        QVERIFY(QFile::exists(":/Stbui/UI/Qml/Controls/Basic/" + file));
-        stbtest::MemoryConfiguration store;
-        stbtest::QmlScene scene;
-        const auto item = scene.createItem(QStringLiteral("import Stbui.UI.Qml.Controls.Basic\n%1 {}")
-                                                   .arg(QLatin1String(QTest::currentDataTag())));
-        QVERIFY(item);
+        for (const QString &name : components) {
+            const QString file = name == "PlayerButton" ? "Experimental/PlayerButton" : name;
+            QVERIFY2(QFile::exists(":/Stbui/UI/Qml/Controls/Basic/qml/" + file + ".qml"), qPrintable(name));
+        }
     }
 
     void anotherMinorVersionOrNameDoesNotExist_data()
@@ -149,36 +143,44 @@ private Q_SLOTS:
     void theMetaTypesAreRegisteredAlongside()
     {
         stbtest::QmlScene scene;
-        QVERIFY(scene.createItem("import Stbui.UI.Qml.Controls.Basic\nEpgViewDelegate {}"));
-        QVERIFY(scene.createItem("import Stbui.UI.Qml.Controls.Basic\nExpandableTile {}"));
-        for (const char *name : { "StbButton*",
-                                  "QQmlListProperty<StbButton>",
-                                  "StbButtonWithCheckIndicator*",
-                                  "QQmlListProperty<StbButtonWithCheckIndicator>",
-                                  "design_system::ButtonQmlStyle*",
-                                  "StbEpgViewDelegate*",
-                                  "QQmlListProperty<StbEpgViewDelegate>",
-                                  "QQuickItem*",
-                                  "QQmlListProperty<QQuickItem>",
-                                  "qml::QmlSettings*",
-                                  "design_system::PlayerEpgDelegateQmlStyle*",
-                                  "StbExpandableTile*",
-                                  "QQmlListProperty<StbExpandableTile>",
-                                  "design_system::TileQmlStyle*",
-                                  "StbEpgDate*",
-                                  "QQmlListProperty<StbEpgDate>",
-                                  "design_system::PlayerEpgDateQmlStyle*",
-                                  "StbEpisodesViewDelegate*",
-                                  "QQmlListProperty<StbEpisodesViewDelegate>",
-                                  "design_system::PlayerEpisodesItemQmlStyle*",
-                                  "StbHorizontalEpgViewDelegate*",
-                                  "QQmlListProperty<StbHorizontalEpgViewDelegate>",
-                                  "design_system::PlayerHorizontalEpgViewQmlStyle*",
-                                  "StbTvChannelViewDelegate*",
-                                  "QList<QColor>",
-                                  "QQmlListProperty<StbTvChannelViewDelegate>",
-                                  "design_system::PlayerTvChannelItemQmlStyle*" })
-            QVERIFY2(QMetaType::fromName(name).isValid(), name);
+        QVERIFY(scene.createItem("import Stbui.UI.Qml.Controls.Basic\nButton {}"));
+        QStringList names { "QQuickItem*",
+                            "QQmlListProperty<QQuickItem>",
+                            "qml::QmlSettings*",
+                            "design_system::ButtonQmlStyle*",
+                            "design_system::TileQmlStyle*",
+                            "design_system::PlayerEpgDelegateQmlStyle*",
+                            "design_system::PlayerEpgDateQmlStyle*",
+                            "design_system::PlayerEpisodesItemQmlStyle*",
+                            "design_system::PlayerHorizontalEpgViewQmlStyle*",
+                            "design_system::PlayerTvChannelItemQmlStyle*" };
+        for (const QString &className : elements)
+            names << className + '*' << "QQmlListProperty<" + className + '>';
+        QCOMPARE(names.size(), 10 + 2 * 11);
+        for (const QString &name : std::as_const(names))
+            QVERIFY2(QMetaType::fromName(name.toLatin1()).isValid(), qPrintable(name));
+        QVERIFY(!QMetaType::fromName("QQmlListProperty<StbNoSuchTile>").isValid());
+    }
+
+    // The type is never named but by its name, which would register it here.
+    void aListOfColoursIsReadAndWrittenAsASequence()
+    {
+        const stbtest::MemoryConfiguration store;
+        stbtest::QmlScene scene;
+        QVERIFY(scene.createItem("import Stbui.UI.Qml.Controls.Basic\nMainMenuButton {}"));
+        const QMetaType type = QMetaType::fromName("QList<QColor>");
+        QVERIFY(type.isValid());
+        QVariant colors(type, nullptr);
+        QVERIFY(colors.canConvert<QSequentialIterable>());
+        QVERIFY(colors.canView<QSequentialIterable>());
+        auto view = colors.view<QSequentialIterable>();
+        view.addValue(QColor("#112233"));
+        view.addValue(QColor("#445566"));
+        view.set(0, QColor("#778899"));
+        const auto list = colors.value<QSequentialIterable>();
+        QCOMPARE(list.size(), 2);
+        QCOMPARE(list.at(0).value<QColor>(), QColor("#778899"));
+        QCOMPARE(list.at(1).value<QColor>(), QColor("#445566"));
     }
 
     void theQmldirStandsInTheResources()
