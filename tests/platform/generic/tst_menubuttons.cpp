@@ -4,6 +4,7 @@
 #include "testkit/testcase.h"
 
 #include <QtGui/qaccessible.h>
+#include <QtQml/qqmlproperty.h>
 #include <QtTest/qsignalspy.h>
 
 namespace {
@@ -33,6 +34,16 @@ QString tab(const QString &properties = {})
 QColor colorOf(const QQuickItem *item)
 {
     return item->property("color").value<QColor>();
+}
+
+/*! For how many milliseconds the colour of \a item changes; -1 when it changes at once. */
+int colorAnimationTime(const QQuickItem *item)
+{
+    for (const QObject *child : item->children()) {
+        if (child->inherits("QQuickBehavior") && child->property("enabled").toBool())
+            return QQmlProperty::read(child, "animation.duration").toInt();
+    }
+    return -1;
 }
 
 } // namespace
@@ -281,12 +292,14 @@ private Q_SLOTS:
         QFETCH(bool, text);
         const QString properties = QStringLiteral("animateBackgroundColors: %1; animateTextColors: %2\n"
                                                   "backgroundColorsAnimationDuration: 487\n"
-                                                  "textColorsAnimationDuration: 487")
+                                                  "textColorsAnimationDuration: 613")
                                            .arg(background ? "true" : "false", text ? "true" : "false");
         GenericScene scene(isMenu ? menu(properties) : tab(properties));
         scene.item->forceActiveFocus();
         QCOMPARE(colorOf(backgroundOf(scene)), QColor(background ? "#101010" : "#303030"));
         QCOMPARE(colorOf(titleOf(scene)), QColor(text ? "#501010" : "#503030"));
+        QCOMPARE(colorAnimationTime(backgroundOf(scene)), background ? 487 : -1);
+        QCOMPARE(colorAnimationTime(titleOf(scene)), text ? 613 : -1);
     }
 
     void aTabIsSelectedByOkAloneAmongItsSiblings()
