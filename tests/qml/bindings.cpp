@@ -3,12 +3,27 @@
 
 #include <design_system/qmldesignsystem.h>
 
+#include <QtCore/qdebug.h>
 #include <QtCore/qhash.h>
 #include <QtCore/qnamespace.h>
 
 namespace {
 
 using Bindings = std::vector<Binding>;
+
+// What is wrong with the value of one property; null when nothing is.
+QString difference(const Binding &binding, const QVariant &actual, QVariant expected)
+{
+    const QLatin1String name(binding.property);
+    if (!actual.isValid() || !expected.isValid())
+        return name + QStringLiteral(": there is no %1 value").arg(actual.isValid() ? "expected" : "such");
+    if (!expected.convert(actual.metaType()))
+        return name + QStringLiteral(" is a ") + QLatin1String(actual.typeName());
+    if (actual == expected)
+        return {};
+    return QStringLiteral("%1: %2 instead of %3")
+            .arg(name, QDebug::toString(actual), QDebug::toString(expected));
+}
 
 Bindings busyIndicator()
 {
@@ -225,4 +240,32 @@ QByteArray styleOf(const QByteArray &component)
         { "TabButton", "tabButtonStyle" },
     };
     return styles.value(component);
+}
+
+Sources sourcesOf(QObject *design, const QByteArray &component)
+{
+    const QByteArray style = styleOf(component);
+    return { design, style.isEmpty() ? nullptr : design->property(style.constData()).value<QObject *>() };
+}
+
+QByteArrayList componentNames(bool withStyleOnly)
+{
+    QByteArrayList names;
+    for (const Binding &binding : allBindings()) {
+        if (!names.contains(binding.component) && (!withStyleOnly || !styleOf(binding.component).isEmpty()))
+            names += binding.component;
+    }
+    return names;
+}
+
+QStringList differences(const QObject *item, const QByteArray &component, const Sources &sources,
+                        const QByteArrayList &except)
+{
+    QStringList found;
+    for (const Binding &binding : allBindings()) {
+        if (binding.component == component && !except.contains(binding.property))
+            found += difference(binding, item->property(binding.property.constData()), binding.value(sources));
+    }
+    found.removeAll(QString());
+    return found;
 }

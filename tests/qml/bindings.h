@@ -4,7 +4,9 @@
 
 #include "designvalues.h"
 
+#include <QtCore/qbytearraylist.h>
 #include <QtCore/qsize.h>
+#include <QtCore/qstringlist.h>
 #include <QtCore/qvariant.h>
 
 #include <functional>
@@ -71,5 +73,15 @@ std::vector<Binding> allBindings();
 
 /*! The property of QmlDesignSystem that the property "style" of \a component starts from; empty without one. */
 QByteArray styleOf(const QByteArray &component);
+
+/*! What \a component reads, at first: with rounding off and scrolling animated. */
+Sources sourcesOf(QObject *design, const QByteArray &component);
+
+/*! The names of all components that have bindings, or of those with a property "style". */
+QByteArrayList componentNames(bool withStyleOnly = false);
+
+/*! The bindings of \a component that are not what they should be, but for those named in \a except. */
+QStringList differences(const QObject *item, const QByteArray &component, const Sources &sources,
+                        const QByteArrayList &except = {});
 
 #endif // TESTS_QML_BINDINGS_H

@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "styledscene.h"
 #include "testkit/fakeplatform.h"
-#include "testkit/qmlscene.h"
 #include "testkit/testcase.h"
-
-#include <design_system/qmldesignsystem.h>
-#include <scenegraph/nodehelpers.h>
 
 #include <QtCore/qabstractanimation.h>
 #include <QtCore/qcoreapplication.h>
@@ -15,7 +12,6 @@
 
 namespace {
 
-const QString imports = QStringLiteral("import QtQuick\nimport Stbui.UI.Qml.Controls.Basic\n");
 const QString folder = QStringLiteral(":/Stbui/UI/Qml/Controls/Basic/");
 
 const QString quick = QStringLiteral("import QtQuick");
@@ -53,11 +49,10 @@ private:
     qint64 m_elapsed = 0;
 };
 
-QList<QObject *> behaviorsOf(const QObject *item)
+QString textOf(const char *component)
 {
-    QList<QObject *> behaviors = item->findChildren<QObject *>();
-    behaviors.removeIf([](const QObject *object) { return !object->inherits("QQuickBehavior"); });
-    return behaviors;
+    QFile file(folder + "qml/" + QLatin1String(component) + ".qml");
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
 } // namespace
@@ -98,9 +93,7 @@ private Q_SLOTS:
         QFETCH(QStringList, expectedImports);
         QFETCH(QString, root);
         QFETCH(QString, id);
-        QFile file(folder + "qml/" + QLatin1String(QTest::currentDataTag()) + ".qml");
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QString text = QString::fromUtf8(file.readAll());
+        const QString text = textOf(QTest::currentDataTag());
         QStringList lines = text.split('\n');
         const qsizetype rootLine = lines.indexOf(root + " {");
         QVERIFY2(rootLine > 0, qPrintable(root));
@@ -110,6 +103,27 @@ private Q_SLOTS:
         lines.removeIf([](const QString &line) { return !line.startsWith("import "); });
         QCOMPARE(lines, expectedImports);
         QVERIFY2(!text.contains(QRegularExpression("\\bfunction\\b|=>|\\bon[A-Z]\\w*:")), "no code");
+    }
+
+    // These say what the controls do by themselves, so that no value tells whether they are there.
+    void whatEqualsTheControlsDefaultIsSaidAllTheSame_data()
+    {
+        QTest::addColumn<QStringList>("expectedLines");
+        QTest::newRow("BusyIndicator") << QStringList { "animationInterval: 17" };
+        QTest::newRow("MainMenuButton")
+                << QStringList { "animateBackgroundColors: false", "animateTextColors: false",
+                                 "leftIconColors: textColors" };
+        QTest::newRow("TabButton") << QStringList {
+            "animateBackgroundColors: STBUIQCB.QmlSettings.colorAnimationsEnabled",
+            "animateTextColors: STBUIQCB.QmlSettings.colorAnimationsEnabled"
+        };
+    }
+    void whatEqualsTheControlsDefaultIsSaidAllTheSame()
+    {
+        QFETCH(QStringList, expectedLines);
+        const QStringList lines = textOf(QTest::currentDataTag()).split('\n');
+        for (const QString &line : std::as_const(expectedLines))
+            QCOMPARE(lines.count("    " + line), 1);
     }
 
     void eachIsCompiledAheadOfTime_data() { eachImportsWhatItUsesUnderTheAgreedNames_data(); }
