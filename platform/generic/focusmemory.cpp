@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "focusmemory.h"
 
+#include <QtCore/qscopedvaluerollback.h>
 #include <QtQuick/qquickwindow.h>
 
 #include <algorithm>
@@ -71,11 +72,8 @@ void FocusMemory::setArea(QQuickItem *area)
     if (m_area)
         disconnect(m_area, nullptr, this, nullptr);
     m_area = area;
-    if (m_area) {
+    if (m_area)
         connect(m_area, &QQuickItem::childrenRectChanged, this, &FocusMemory::measure);
-        connect(m_area, &QQuickItem::heightChanged, this, [this] { m_areaHeight = m_area->height(); });
-    }
-    m_areaHeight = m_area ? m_area->height() : 0;
     Q_EMIT areaChanged();
     measure();
     polish();
@@ -84,11 +82,21 @@ void FocusMemory::setArea(QQuickItem *area)
 void FocusMemory::measure()
 {
     const qreal bottom = m_area ? m_area->childrenRect().bottom() : 0;
-    const bool isFollowingArea = m_area && m_area->height() != m_areaHeight;
-    if (isFollowingArea || bottom == m_contentHeight)
+    if (m_isResizing || bottom == m_contentHeight)
         return;
     m_contentHeight = bottom;
     Q_EMIT contentHeightChanged();
+}
+
+void FocusMemory::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
+{
+    {
+        const bool isHeightNew = newGeometry.height() != oldGeometry.height();
+        const QScopedValueRollback<bool> guard(m_isResizing, m_isResizing || isHeightNew);
+        QQuickItem::geometryChange(newGeometry, oldGeometry);
+    }
+    if (newGeometry.width() != oldGeometry.width())
+        measure(); // texts may have got other lines
 }
 
 void FocusMemory::focusInEvent(QFocusEvent *event)

@@ -25,8 +25,8 @@ class FocusMemory : public QQuickItem
     /*! The item whose child items are looked at; none by default. */
     Q_PROPERTY(QQuickItem *area READ area WRITE setArea NOTIFY areaChanged)
     /*!
-        How far down the items in the area reach. What they do because the area changes its height does not count,
-        so one of them may fill an area that is as high as its content.
+        How far down the items in the area reach. What they do because the height of this item changes does not
+        count, so one of them may fill an area that is as high as its content.
     */
     Q_PROPERTY(qreal contentHeight READ contentHeight NOTIFY contentHeightChanged)
     QML_ELEMENT
@@ -47,6 +47,7 @@ protected:
     void focusInEvent(QFocusEvent *event) override;
     void updatePolish() override;
     void itemChange(ItemChange change, const ItemChangeData &data) override;
+    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
 
 private:
     void followFocusIn(QQuickWindow *window);
@@ -62,7 +63,7 @@ private:
     QPointer<QQuickItem> m_watched; //!< has the focus; Qt leaves it there when the item is hidden
     QPointer<QQuickItem> m_standIn; //!< got the focus because there was nothing better
     qreal m_contentHeight = 0;
-    qreal m_areaHeight = 0;
+    bool m_isResizing = false;
     std::unique_ptr<QObject> m_ears; //!< while the focus waits for an item: receives the area's changes
 };
 

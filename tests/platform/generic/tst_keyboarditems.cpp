@@ -4,6 +4,7 @@
 
 #include <QtCore/qset.h>
 #include <QtCore/qtranslator.h>
+#include <QtQml/qqmlexpression.h>
 
 using namespace Qt::StringLiterals;
 using namespace keyboard;
@@ -68,6 +69,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("how");
         QTest::newRow("the keyboard is hidden") << u"hidden"_s;
         QTest::newRow("the keyboard is destroyed") << u"destroyed"_s;
+        QTest::newRow("the keyboard has another target") << u"other"_s;
     }
 
     void aTargetThatIsGivenUpIsNotBeingEdited()
@@ -78,8 +80,10 @@ private Q_SLOTS:
         QCOMPARE(scene.line()->property("editing").toBool(), true);
         if (how == u"hidden")
             scene.keyboard()->setVisible(false);
-        else
+        else if (how == u"destroyed")
             delete scene.keyboard();
+        else
+            QQmlExpression(qmlContext(scene.keyboard()), scene.keyboard(), u"target = null"_s).evaluate();
         QCOMPARE(scene.line()->property("editing").toBool(), false);
     }
 

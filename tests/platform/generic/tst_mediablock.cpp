@@ -182,6 +182,29 @@ private Q_SLOTS:
         QCOMPARE(scene.item->height(), title->height() + 7);
     }
 
+    void contentMayBeBoundToTheHeightOfItsPlace()
+    {
+        Scene scene;
+        QVERIFY(scene.showBlock(u"title: 'News'; Item { width: 20; height: parent.height }"_s));
+        QVERIFY(scene.item->height() > 17);
+        scene.item->setProperty("title", QString());
+        scene.item->setHeight(80);
+        QCOMPARE(scene.item->height(), 80);
+    }
+
+    void aBlockGrowsWithATextThatIsWrapped()
+    {
+        Scene scene;
+        QVERIFY(scene.showBlock(u"Text { width: parent.width; wrapMode: Text.Wrap; text: 'one two three'\n"
+                                "font { family: 'DejaVu Sans'; pixelSize: 17 } }"_s));
+        const qreal oneLine = scene.item->height();
+        QVERIFY(oneLine > 0);
+        scene.item->setWidth(60);
+        QVERIFY(scene.item->height() > 2 * oneLine);
+        scene.item->setWidth(301);
+        QCOMPARE(scene.item->height(), oneLine);
+    }
+
     void aBlockFollowsTheHeightOfItsContent()
     {
         Scene scene;
