@@ -76,27 +76,13 @@ Item {
         leftMargin: LayoutMirroring.enabled ? width : Look.safeX
         rightMargin: LayoutMirroring.enabled ? Look.safeX : width
         model: tileRow.row.tiles
-        currentIndex: tileRow.row.current
+        // A list that knows its current item jumps to where that is seen, and what moves smoothly begins there.
+        currentIndex: -1
         // A list goes to its beginning when it is completed, and does not get far before it knows how long it is: it is told
         // again each time.
         contentX: (tileRow.placed ? 0 : 0) + contentWidth - contentWidth
                   + (LayoutMirroring.enabled ? Look.safeX - width - tileRow.row.first * tileRow.step
                                              : tileRow.row.first * tileRow.step - Look.safeX)
-        highlightFollowsCurrentItem: false
-        // With Qt 6.4 a component cannot say that it belongs where it stands; the linter asks for that.
-        // qmllint disable unqualified
-        highlight: FocusPlate {
-            readonly property ExpandableTile tile: list.currentItem as ExpandableTile
-            readonly property rect around: tile ? tile.customFocusRect : Qt.rect(0, 0, 0, 0)
-
-            visible: tileRow.active && tile
-            x: (tile ? tile.x : 0) + around.x - Look.frame
-            y: around.y - Look.frame
-            width: around.width + 2 * Look.frame
-            height: around.height + 2 * Look.frame
-            radius: 0
-        }
-        // qmllint enable unqualified
         delegate: tileRow.row.kind === HomeRow.NowOnTv ? programme : video
 
         Behavior on contentX {
@@ -107,26 +93,44 @@ Item {
             }
         }
     }
+    // With Qt 6.4 a component cannot say that it belongs where it stands; the linter asks for that.
     // qmllint disable unqualified
     Component {
         id: programme
 
         ProgrammeTile {
-            focused: tileRow.active && ListView.isCurrentItem
+            id: programmeTile
+
+            required property int index
+
+            focused: tileRow.active && tileRow.row.current === index
             captionLines: tileRow.captionLines
+
+            Plate {
+                tile: programmeTile
+                visible: programmeTile.focused
+            }
         }
     }
     Component {
         id: video
 
         VideoTile {
+            id: videoTile
+
+            required property int index
             required property url picture
             required property url still
 
-            focused: tileRow.active && ListView.isCurrentItem
+            focused: tileRow.active && tileRow.row.current === index
             captionLines: tileRow.captionLines
             style: tileRow.tileStyle
             shownPicture: tileRow.upright ? picture : still
+
+            Plate {
+                tile: videoTile
+                visible: videoTile.focused
+            }
         }
     }
     // qmllint enable unqualified
@@ -142,4 +146,19 @@ Item {
         font: tileRow.tileStyle.style.subtitleStyle.font
     }
     // qmllint enable type
+
+    // Around what the tile takes up, and below it.
+    component Plate: FocusPlate {
+        required property ExpandableTile tile
+        // qmllint disable type
+        readonly property rect around: tile.customFocusRect
+        // qmllint enable type
+
+        z: -1
+        x: around.x - Look.frame
+        y: around.y - Look.frame
+        width: around.width + 2 * Look.frame
+        height: around.height + 2 * Look.frame
+        radius: 0
+    }
 }
