@@ -107,6 +107,9 @@ FocusScope {
         anchors.bottomMargin: control.bottomPadding
         focus: true
         clip: true
+        // By itself it asks the system's keyboard where a text without letters begins. A mirrored layout turns it over.
+        horizontalAlignment: TextKeys.runsToTheLeft(displayText, input.LayoutMirroring.enabled)
+                             === input.LayoutMirroring.enabled ? TextInput.AlignLeft : TextInput.AlignRight
         verticalAlignment: TextInput.AlignVCenter
         color: ColorsByState.ofControl(control.textColors, control.enabled, false, control.focusShown)
         selectionColor: color

@@ -79,6 +79,17 @@ void KeyboardSteering::setKey(int key)
     m_column = place.column + (place.span - 1) / 2;
 }
 
+Qt::Edges KeyboardSteering::edges() const
+{
+    const KeyPlace &place = keyboardKeys().at(m_key);
+    Qt::Edges result;
+    result.setFlag(Qt::TopEdge, place.row == 0);
+    result.setFlag(Qt::BottomEdge, place.row == keyboardRowCount - 1);
+    result.setFlag(Qt::LeftEdge, place.column == 0);
+    result.setFlag(Qt::RightEdge, place.column + place.span == keyboardColumnCount);
+    return result;
+}
+
 bool KeyboardSteering::move(KeyDirection direction, bool wraps)
 {
     switch (direction) {

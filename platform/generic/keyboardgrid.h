@@ -3,6 +3,7 @@
 #define STBGENERIC_KEYBOARDGRID_H
 
 #include <QtCore/qlist.h>
+#include <QtCore/qnamespace.h>
 
 namespace stbgeneric {
 
@@ -53,6 +54,8 @@ public:
     explicit KeyboardSteering(int key = 0);
 
     int key() const { return m_key; }
+    /*! The edges of the keyboard that the key is at. */
+    Qt::Edges edges() const;
     void setKey(int key);
 
     /*!

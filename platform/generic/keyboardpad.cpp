@@ -128,19 +128,22 @@ void KeyboardPad::keyPressEvent(QKeyEvent *event)
 bool KeyboardPad::steer(int key)
 {
     const int before = currentKey();
+    const auto move = [this](KeyDirection direction, bool wraps, Qt::Edge edge) {
+        return m_steering.move(direction, wraps && (m_openEdges & edge) == 0);
+    };
     bool isMoved = false;
     switch (key) {
     case Qt::Key_Left:
-        isMoved = m_steering.move(KeyDirection::Left, m_wrapsHorizontally);
+        isMoved = move(KeyDirection::Left, m_wrapsHorizontally, Qt::LeftEdge);
         break;
     case Qt::Key_Right:
-        isMoved = m_steering.move(KeyDirection::Right, m_wrapsHorizontally);
+        isMoved = move(KeyDirection::Right, m_wrapsHorizontally, Qt::RightEdge);
         break;
     case Qt::Key_Up:
-        isMoved = m_steering.move(KeyDirection::Up, m_wrapsVertically);
+        isMoved = move(KeyDirection::Up, m_wrapsVertically, Qt::TopEdge);
         break;
     case Qt::Key_Down:
-        isMoved = m_steering.move(KeyDirection::Down, m_wrapsVertically);
+        isMoved = move(KeyDirection::Down, m_wrapsVertically, Qt::BottomEdge);
         break;
     default:
         break;

@@ -78,6 +78,11 @@ class KeyboardPad : public QQuickItem
     */
     Q_PROPERTY(bool wrapsHorizontally MEMBER m_wrapsHorizontally NOTIFY wrappingChanged)
     Q_PROPERTY(bool wrapsVertically MEMBER m_wrapsVertically NOTIFY wrappingChanged)
+    /*!
+        The edges of the keyboard, Qt.LeftEdge and so on, beyond which an arrow key is left to others although steering
+        goes around; none by default.
+    */
+    Q_PROPERTY(int openEdges MEMBER m_openEdges NOTIFY wrappingChanged)
     /*! The number of the current key, counted along the rows; by default the first letter's. */
     Q_PROPERTY(int currentKey READ currentKey WRITE setCurrentKey NOTIFY currentKeyChanged)
     /*!
@@ -85,6 +90,8 @@ class KeyboardPad : public QQuickItem
         keyboard has the focus and can be seen.
     */
     Q_PROPERTY(QQuickItem *edited READ edited WRITE setEdited NOTIFY editedChanged)
+    /*! The edges of the keyboard that the current key is at. */
+    Q_PROPERTY(int currentEdges READ currentEdges NOTIFY currentKeyChanged)
     /*! How many keys there are. */
     Q_PROPERTY(int keyCount READ keyCount CONSTANT)
     QML_ELEMENT
@@ -100,6 +107,7 @@ public:
     bool showsSymbols() const { return m_state.showsSymbols(); }
     int currentKey() const { return m_steering.key(); }
     QQuickItem *edited() const { return m_edited; }
+    int currentEdges() const { return m_steering.edges(); }
     static int keyCount() { return static_cast<int>(keyboardKeys().size()); }
 
     void setLanguage(const QString &language);
@@ -175,6 +183,7 @@ private:
     qreal m_keyWidth = 40;
     bool m_wrapsHorizontally = true;
     bool m_wrapsVertically = true;
+    int m_openEdges = 0;
 
     KeyboardState m_state;
     KeyboardSteering m_steering;

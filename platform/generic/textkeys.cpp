@@ -97,4 +97,20 @@ void TextKeys::endEditing(QQuickItem *input) const
     QCoreApplication::sendEvent(input, &event);
 }
 
+bool TextKeys::runsToTheLeft(const QString &text, bool otherwise)
+{
+    for (const char32_t letter : text.toUcs4()) {
+        switch (QChar::direction(letter)) {
+        case QChar::DirL:
+            return false;
+        case QChar::DirR:
+        case QChar::DirAL:
+            return true;
+        default: // a digit, a mark or a space says nothing
+            break;
+        }
+    }
+    return otherwise;
+}
+
 } // namespace stbgeneric

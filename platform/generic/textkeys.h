@@ -37,6 +37,8 @@ public:
         Qt does that when the focus leaves, which it has never had. With the focus in the input nothing happens.
     */
     Q_INVOKABLE void endEditing(QQuickItem *input) const;
+    /*! Whether \a text runs from right to left: as its first letter does, and as \a otherwise says without any. */
+    Q_INVOKABLE static bool runsToTheLeft(const QString &text, bool otherwise);
 };
 
 } // namespace stbgeneric

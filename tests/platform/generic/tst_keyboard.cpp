@@ -86,6 +86,43 @@ private Q_SLOTS:
         QVERIFY(!scene.press(Qt::Key_Down));
     }
 
+    void anArrowBeyondAnOpenEdgeIsLeftToOthersAndTheOthersGoAround()
+    {
+        KeyboardScene scene;
+        QVERIFY(scene.showKeyboard(u"openEdges: Qt.RightEdge | Qt.BottomEdge; currentKey: 0; "_s));
+        QVERIFY(scene.press(Qt::Key_Up));
+        QCOMPARE(scene.pad()->currentKey(), language);
+        QVERIFY(!scene.press(Qt::Key_Down));
+        QVERIFY(scene.press(Qt::Key_Left));
+        QCOMPARE(scene.pad()->currentKey(), cursorRight);
+        QVERIFY(!scene.press(Qt::Key_Right));
+        QCOMPARE(scene.pad()->currentKey(), cursorRight);
+        scene.pad()->setProperty("openEdges", int(Qt::TopEdge | Qt::LeftEdge));
+        QVERIFY(scene.press(Qt::Key_Down));
+        QVERIFY(!scene.press(Qt::Key_Up));
+        scene.pad()->setCurrentKey(0);
+        QVERIFY(!scene.press(Qt::Key_Left));
+    }
+
+    void theKeyboardTellsTheEdgesThatAKeyIsAt()
+    {
+        KeyboardScene scene;
+        QVERIFY(scene.showKeyboard());
+        QCOMPARE(scene.pad()->currentEdges(), int(Qt::LeftEdge));
+        QSignalSpy changes(scene.pad(), &KeyboardPad::currentKeyChanged);
+        const QList<std::pair<int, int>> keys { { 0, Qt::TopEdge | Qt::LeftEdge },
+                                                { 1, Qt::TopEdge },
+                                                { firstLetter + 1, 0 },
+                                                { capsLock, Qt::RightEdge },
+                                                { language, Qt::BottomEdge | Qt::LeftEdge },
+                                                { cursorRight, Qt::BottomEdge | Qt::RightEdge } };
+        for (const auto &[key, edges] : keys) {
+            scene.pad()->setCurrentKey(key);
+            QCOMPARE(scene.pad()->currentEdges(), edges);
+        }
+        QCOMPARE(changes.count(), keys.size());
+    }
+
     void theFocusLeavesWhereWrappingIsOff()
     {
         KeyboardScene scene;

@@ -143,6 +143,35 @@ private Q_SLOTS:
         QCOMPARE(cursorItem(scene)->x(), 11.0);
     }
 
+    void whatHasNoLettersBeginsWhereTheLayoutDoes_data()
+    {
+        QTest::addColumn<QString>("written");
+        QTest::newRow("nothing") << "";
+        QTest::newRow("digits") << "20";
+        QTest::newRow("signs") << "?!";
+    }
+    void whatHasNoLettersBeginsWhereTheLayoutDoes()
+    {
+        QFETCH(QString, written);
+        GenericScene scene(edit("editing: true; LayoutMirroring.childrenInherit: true"));
+        insert(scene, written);
+        const double end = cursorItem(scene)->x();
+        QVERIFY2(end >= 11 && end < 50, qPrintable(QString::number(end)));
+        call(scene, "clear");
+        GenericScene mirrored(edit("editing: true; LayoutMirroring.enabled: true\n"
+                                   "LayoutMirroring.childrenInherit: true"));
+        insert(mirrored, written);
+        QCOMPARE(cursorItem(mirrored)->x(), 189.0); // the paddings have changed their sides
+        // Letters begin where they are read from, in either layout.
+        call(mirrored, "clear");
+        insert(mirrored, "7 abc");
+        mirrored.item->setProperty("cursorPosition", 0);
+        QCOMPARE(cursorItem(mirrored)->x(), 17.0);
+        insert(scene, "7 " + hebrew);
+        scene.item->setProperty("cursorPosition", 0);
+        QVERIFY(cursorItem(scene)->x() > 150); // before the digit, which runs to the right
+    }
+
     void leftAndRightLeaveItAtTheEndsAndUpAndDownAlways()
     {
         GenericScene scene(edit("text: 'ab'"));
