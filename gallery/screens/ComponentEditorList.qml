@@ -41,7 +41,7 @@ ListView {
         Accessible.role: isFlag ? Accessible.CheckBox : isNumber ? Accessible.SpinBox : Accessible.ComboBox
         Accessible.name: isFlag ? name : name + ": " + text
         Accessible.focusable: true
-        Accessible.focused: focused
+        Accessible.focused: focused && Told.screenFocus
         Accessible.checkable: isFlag
         Accessible.checked: checked
 

@@ -39,17 +39,19 @@ Item {
             text: qsTr("Value")
         }
         KeyHint {
-            visible: text.length > 0
-            key: qsTr("OK", "a key of the remote control")
-            text: hints.area === ComponentsController.Pages ? qsTr("Try out")
-                : hints.area === ComponentsController.Line ? qsTr("Copy")
-                : hints.area === ComponentsController.Preview && hints.controller.takesKeys && !hints.controller.entered
-                  ? qsTr("Use the control") : ""
+            visible: hints.area === ComponentsController.Preview && !hints.controller.entered
+            key: "▼"
+            text: qsTr("Properties")
         }
         KeyHint {
-            visible: hints.area !== ComponentsController.Pages
+            visible: text.length > 0
+            key: qsTr("OK", "a key of the remote control")
+            text: hints.controller.okText
+        }
+        KeyHint {
             key: qsTr("BACK", "a key of the remote control")
-            text: hints.controller.entered ? qsTr("Leave the control") : qsTr("Controls")
+            text: hints.controller.entered ? qsTr("Leave the control")
+                : hints.area === ComponentsController.Pages ? qsTr("Leave") : qsTr("Controls")
         }
     }
 }

@@ -9,17 +9,18 @@ Item {
     required property ComponentsController controller
     readonly property bool focused: controller.area === ComponentsController.Line
 
-    height: Math.ceil(3 * metrics.height) + 2 * Look.small
+    height: Math.ceil(3 * metrics.lineSpacing) + 2 * Look.small
     Accessible.role: Accessible.Button
     Accessible.name: controller.qmlText
     Accessible.focusable: true
-    Accessible.focused: focused
+    Accessible.focused: focused && Told.screenFocus
     Accessible.onPressAction: controller.press(Qt.Key_Return)
 
     EdgeFade {
         anchors.bottom: plate.top
         rotation: 180
-        visible: plate.height > box.height
+        // Without the focus nothing sticks out, and what is above must not fade.
+        visible: box.focused && plate.height > box.height
     }
     Rectangle {
         id: plate
@@ -27,7 +28,7 @@ Item {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.bottom: parent.bottom
-        height: Math.max(parent.height, code.height + 2 * Look.small)
+        height: box.focused ? Math.max(parent.height, code.height + 2 * Look.small) : parent.height
         color: Look.surface
         radius: Look.radius
 

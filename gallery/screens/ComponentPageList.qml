@@ -33,7 +33,7 @@ ListView {
         Accessible.role: Accessible.ListItem
         Accessible.name: modelData
         Accessible.focusable: true
-        Accessible.focused: focused
+        Accessible.focused: focused && Told.screenFocus
         Accessible.selectable: true
         Accessible.selected: current
 

@@ -13,7 +13,7 @@ FocusScope {
     Accessible.role: Accessible.Grouping
     Accessible.name: controller.pageName
     Accessible.focusable: true
-    Accessible.focused: chosen && !controller.entered
+    Accessible.focused: chosen && !controller.entered && Told.screenFocus
 
     FocusPlate {
         anchors.fill: parent

@@ -42,7 +42,7 @@ FocusScope {
         objectName: "pages"
         anchors.top: header.bottom
         anchors.topMargin: Look.small
-        anchors.bottom: line.top
+        anchors.bottom: Look.wide ? line.top : editors.top
         anchors.bottomMargin: Look.small
         anchors.left: header.left
         // The longest name fits.
@@ -70,9 +70,11 @@ FocusScope {
         id: editors
 
         objectName: "editors"
-        anchors.bottom: pages.bottom
-        anchors.left: stage.left
-        anchors.right: stage.right
+        anchors.bottom: line.top
+        anchors.bottomMargin: Look.small
+        // On a narrow screen names and values need all of the width.
+        anchors.left: Look.wide ? stage.left : header.left
+        anchors.right: header.right
         controller: screen.components
     }
     EdgeFades {

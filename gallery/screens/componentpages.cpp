@@ -57,8 +57,11 @@ Editors viewEditors()
 
 QStringList gridSettings(const QStringList &more)
 {
-    return QStringList { u"width: <640>"_s, u"height: <240>"_s, u"clip: true"_s, u"model: 24"_s } + more
-           + QStringList { delegate(u"GridView"_s) };
+    // Whole rows, however high they are.
+    return QStringList { u"width: <640>"_s,
+                         u"height: topMargin + 3 * itemHeight + 2 * verticalSpacing + bottomMargin"_s,
+                         u"clip: true"_s, u"model: 24"_s }
+           + more + QStringList { delegate(u"GridView"_s) };
 }
 
 QStringList listSettings()
@@ -136,7 +139,9 @@ ComponentPage keyboardPage()
                           flag(u"wrapsHorizontally"_s, true), flag(u"wrapsVertically"_s, true),
                           fedBack(number(u"currentKey"_s, 12, 0, 55, 1)) },
              .takesKeys = true,
-             .types = true };
+             .types = true,
+             .surroundings = u"Column { LineEdit { id: line; width: <480> } %1 }"_s,
+             .surroundingsSetting = u"target: line"_s };
 }
 
 ComponentPage lineEditPage()
@@ -189,8 +194,7 @@ ComponentPage mediaBlockPage()
              .editors = { byStyle(length(u"width"_s, 640, 240, 840, 40)),
                           text(u"title"_s, u"Continue watching"_s), color(u"titleColor"_s, u"sochi"_s),
                           color(u"focusedTitleColor"_s), number(u"titleSpacing"_s, 12, 0, 48, 4),
-                          begun(number(u"leftMargin"_s, 0, 0, 96, 16), 64.0),
-                          number(u"rightMargin"_s, 0, 0, 96, 16) },
+                          length(u"leftMargin"_s, 64, 0, 96, 16), length(u"rightMargin"_s, 0, 0, 96, 16) },
              .takesKeys = true };
 }
 
@@ -200,8 +204,8 @@ ComponentPage mediaGridViewPage()
              .module = u"Basic"_s,
              .settings = gridSettings({ u"itemWidth: <120>"_s, u"itemHeight: <64>"_s }),
              .editors = viewEditors()
-                        + Editors { number(u"topMargin"_s, 0, 0, 48, 8),
-                                    number(u"bottomMargin"_s, 0, 0, 48, 8) },
+                        + Editors { length(u"topMargin"_s, 0, 0, 48, 8),
+                                    length(u"bottomMargin"_s, 0, 0, 48, 8) },
              .takesKeys = true };
 }
 
@@ -273,12 +277,12 @@ ComponentPage scrolledGridViewPage()
         .module = u"Generic"_s,
         .settings = gridSettings({}),
         .editors = viewEditors()
-                   + Editors { begun(number(u"itemWidth"_s, 100, 100, 240, 20), 120.0),
-                               begun(number(u"itemHeight"_s, 100, 60, 140, 10), 70.0),
-                               begun(number(u"horizontalSpacing"_s, 0, 0, 48, 8), 8.0),
-                               begun(number(u"verticalSpacing"_s, 0, 0, 48, 8), 8.0),
-                               number(u"leftMargin"_s, 0, 0, 96, 16), number(u"rightMargin"_s, 0, 0, 96, 16),
-                               number(u"topMargin"_s, 0, 0, 48, 8), number(u"bottomMargin"_s, 0, 0, 48, 8),
+                   + Editors { byStyle(length(u"itemWidth"_s, 120, 100, 240, 20)),
+                               byStyle(length(u"itemHeight"_s, 64, 64, 144, 16)),
+                               length(u"horizontalSpacing"_s, 8, 0, 48, 8),
+                               length(u"verticalSpacing"_s, 8, 0, 48, 8),
+                               length(u"leftMargin"_s, 0, 0, 96, 16), length(u"rightMargin"_s, 0, 0, 96, 16),
+                               length(u"topMargin"_s, 0, 0, 48, 8), length(u"bottomMargin"_s, 0, 0, 48, 8),
                                number(u"highlightMoveDuration"_s, 200, 0, 1000, 100) },
         .takesKeys = true
     };
@@ -290,7 +294,7 @@ ComponentPage scrolledListViewPage()
              .module = u"Generic"_s,
              .settings = listSettings(),
              .editors = Editors { length(u"height"_s, 208, 64, 240, 16), orientation(false),
-                                  begun(number(u"spacing"_s, 0, 0, 48, 8), 8.0) }
+                                  length(u"spacing"_s, 8, 0, 48, 8) }
                         + viewEditors() + Editors { number(u"highlightMoveDuration"_s, 200, 0, 1000, 100) },
              .takesKeys = true };
 }

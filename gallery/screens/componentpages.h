@@ -82,6 +82,12 @@ struct ComponentPage
     bool types = false;
     /*! It lies over something else; a picture is shown below it. */
     bool liesOver = false;
+    /*!
+        What the control is of no use without, around its place "%1", and how it is told of that: both only for who
+        copies the line, as the page has the like already.
+    */
+    QString surroundings {};
+    QString surroundingsSetting {};
     /*! How far the picture sticks out of the item, in pixels of a screen 720 pixels high. */
     QMargins overhang {};
 
@@ -90,9 +96,14 @@ struct ComponentPage
         be told. \a unit is what lengths are multiplied by.
     */
     QString qml(const QList<QVariant> &values, qreal unit) const;
+    /*! The same with what the control is of no use without. */
+    QString wholeQml(const QList<QVariant> &values, qreal unit) const;
     QList<QVariant> startValues() const;
     /*! \a values, but what is late as it is at the start: what a control is made with. */
     QList<QVariant> valuesOfNew(const QList<QVariant> &values) const;
+
+private:
+    QString body(const QStringList &allSettings, const QList<QVariant> &values, qreal unit) const;
 };
 
 /*! All pages: first the controls of Stbui.UI.Qml.Controls.Basic by name, then what only Generic has. */

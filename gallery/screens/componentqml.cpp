@@ -51,7 +51,7 @@ QStringList imports(const QString &module, const QString &body)
 {
     const auto has = [&body](QLatin1StringView word) { return body.contains(word); };
     QStringList result;
-    if (has("ListView."_L1) || has("GridView."_L1) || has("TextInput."_L1))
+    if (has("ListView."_L1) || has("GridView."_L1) || has("TextInput."_L1) || has("Column "_L1))
         result.append(u"QtQuick"_s);
     if (has("QmlDesignSystem."_L1))
         result.append(u"Stbui.UI.Qml.Design"_s);
@@ -60,6 +60,11 @@ QStringList imports(const QString &module, const QString &body)
     if (module == "Generic"_L1)
         result.append(u"Stbui.UI.Qml.Controls.Generic"_s);
     return result;
+}
+
+QString withImports(const QString &module, const QString &body)
+{
+    return "import "_L1 + imports(module, body).join("; import "_L1) + "; "_L1 + body;
 }
 
 } // namespace
@@ -135,16 +140,28 @@ QVariant ComponentEditor::written(const QVariant &value, qreal unit) const
 
 QString ComponentPage::qml(const QList<QVariant> &values, qreal unit) const
 {
+    return withImports(module, body(settings, values, unit));
+}
+
+QString ComponentPage::wholeQml(const QList<QVariant> &values, qreal unit) const
+{
+    if (surroundings.isEmpty())
+        return qml(values, unit);
+    const QString control = body(settings + QStringList(surroundingsSetting), values, unit);
+    return withImports(module, scaled(surroundings, unit).arg(control));
+}
+
+QString ComponentPage::body(const QStringList &allSettings, const QList<QVariant> &values, qreal unit) const
+{
     QStringList parts;
-    for (const QString &setting : settings)
+    for (const QString &setting : allSettings)
         parts.append(scaled(setting, unit));
     for (qsizetype i = 0; i < editors.size(); ++i) {
         const ComponentEditor &editor = editors.at(i);
         if (editor.isSet(values.at(i)))
             parts.append(editor.name + ": "_L1 + editor.qml(values.at(i), unit));
     }
-    const QString body = name + (parts.isEmpty() ? u" {}"_s : " { "_L1 + joined(parts) + " }"_L1);
-    return "import "_L1 + imports(module, body).join("; import "_L1) + "; "_L1 + body;
+    return name + (parts.isEmpty() ? u" {}"_s : " { "_L1 + joined(parts) + " }"_L1);
 }
 
 QList<QVariant> ComponentPage::valuesOfNew(const QList<QVariant> &values) const

@@ -3,6 +3,7 @@
 
 #include "screens/remotekey.h"
 
+#include <QtCore/qcoreapplication.h>
 #include <QtGui/qclipboard.h>
 #include <QtGui/qguiapplication.h>
 
@@ -24,6 +25,8 @@ bool isArrow(int key)
 ComponentsController::ComponentsController(QObject *parent)
     : QObject(parent)
 {
+    connect(this, &ComponentsController::pageChanged, this, &ComponentsController::okTextChanged);
+    connect(this, &ComponentsController::focusChanged, this, &ComponentsController::okTextChanged);
 }
 
 void ComponentsController::start()
@@ -45,7 +48,34 @@ QStringList ComponentsController::pages() const
 
 QString ComponentsController::qmlText() const
 {
-    return page().qml(m_values.values(), m_unit);
+    return page().wholeQml(m_values.values(), m_unit);
+}
+
+QString ComponentsController::okText() const
+{
+    const auto translated = [](const char *text) {
+        return QCoreApplication::translate("ComponentHints", text);
+    };
+    switch (m_area) {
+    case Pages:
+        return takesKeys() ? translated(QT_TRANSLATE_NOOP("ComponentHints", "Try out"))
+                           : translated(QT_TRANSLATE_NOOP("ComponentHints", "Open"));
+    case Preview:
+        return takesKeys() && !m_entered ? translated(QT_TRANSLATE_NOOP("ComponentHints", "Use the control"))
+                                         : QString();
+    case Editors:
+        break;
+    case Line:
+        return translated(QT_TRANSLATE_NOOP("ComponentHints", "Copy"));
+    }
+    switch (m_values.editor(m_editorRow).kind) {
+    case ComponentEditor::Kind::Flag:
+        return translated(QT_TRANSLATE_NOOP("ComponentHints", "Switch"));
+    case ComponentEditor::Kind::Number:
+        return translated(QT_TRANSLATE_NOOP("ComponentHints", "Reset"));
+    default:
+        return translated(QT_TRANSLATE_NOOP("ComponentHints", "Next"));
+    }
 }
 
 QString ComponentsController::creationQml() const

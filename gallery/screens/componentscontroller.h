@@ -35,6 +35,9 @@ class ComponentsController : public QObject
     /*! The control has the keys; only in the area \c Preview. */
     Q_PROPERTY(bool entered READ isEntered NOTIFY focusChanged)
 
+    /*! What OK does where the keys are; empty where it does nothing. */
+    Q_PROPERTY(QString okText READ okText NOTIFY okTextChanged)
+
     /*! One line: imports, and the control with every property that is not as it is by default. */
     Q_PROPERTY(QString qmlText READ qmlText NOTIFY qmlTextChanged)
     /*! The line was copied; until the next key. */
@@ -70,8 +73,12 @@ public:
     Area area() const { return m_area; }
     bool isEntered() const { return m_entered; }
 
+    QString okText() const;
     QString qmlText() const;
-    /*! What the control is made from: the same line, but for what is written when the control is there. */
+    /*!
+        What the control is made from: the same line, but for what is written when the control is there, and what it is
+        of no use without.
+    */
     QString creationQml() const;
     bool isCopied() const { return m_copied; }
 
@@ -102,6 +109,7 @@ public:
 Q_SIGNALS:
     void pageChanged();
     void focusChanged();
+    void okTextChanged();
     void qmlTextChanged();
     void copiedChanged();
     void unitChanged();

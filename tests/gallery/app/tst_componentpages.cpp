@@ -12,6 +12,7 @@
 #include <QtQml/qqmlcomponent.h>
 #include <QtQml/qqmlengine.h>
 #include <QtQml/qqmlproperty.h>
+#include <QtQuick/qquickitem.h>
 
 using gallery::ComponentEditor;
 using gallery::ComponentPage;
@@ -274,6 +275,26 @@ private Q_SLOTS:
                                 "import QtQuick; import Stbui.UI.Qml.Controls.Basic; import "
                                 "Stbui.UI.Qml.Controls.Generic; ScrolledListView { width: 640; clip: true; model: 24; "
                                 "delegate: StandardButton { "));
+    }
+
+    void theKeyboardsLineHasALineToTypeInto()
+    {
+        for (const ComponentPage &page : gallery::componentPages()) {
+            const QString whole = page.wholeQml(page.startValues(), 1.5);
+            if (page.name != "Keyboard") {
+                QCOMPARE(whole, page.qml(page.startValues(), 1.5));
+                continue;
+            }
+            QCOMPARE(whole,
+                     "import QtQuick; import Stbui.UI.Qml.Controls.Basic; Column { LineEdit { id: line; width: 720 } "
+                     "Keyboard { target: line } }");
+            const auto column = create(whole);
+            QVERIFY(column != nullptr);
+            const QList<QQuickItem *> children = qobject_cast<QQuickItem *>(column.get())->childItems();
+            QCOMPARE(children.size(), 2);
+            QMetaObject::invokeMethod(children.at(1), "textEntered", Q_ARG(QString, "x"));
+            QCOMPARE(children.at(0)->property("text").toString(), "x");
+        }
     }
 
     void lengthsGrowWithTheScreenAndOtherNumbersDoNot()

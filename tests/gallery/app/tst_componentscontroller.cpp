@@ -258,6 +258,29 @@ private Q_SLOTS:
         QCOMPARE(shown(ComponentValues::TextRole), "Empty");
     }
 
+    void whatOkDoesIsSaidWhereItDoesSomething()
+    {
+        QSignalSpy changes(m.get(), &ComponentsController::okTextChanged);
+        QCOMPARE(m->okText(), "Open"); // a button takes no keys here
+        press({ Qt::Key_Right });
+        QCOMPARE(m->okText(), QString());
+        QCOMPARE(changes.count(), 1);
+        show("CheckBox");
+        QCOMPARE(m->okText(), "Try out");
+        press({ Qt::Key_Return });
+        QCOMPARE(m->okText(), "Use the control");
+        press({ Qt::Key_Return });
+        QCOMPARE(m->okText(), QString());
+        press({ Qt::Key_Back, Qt::Key_Down });
+        QCOMPARE(m->okText(), "Switch");
+        press({ Qt::Key_Down });
+        QCOMPARE(m->okText(), "Next");
+        press({ Qt::Key_Down, Qt::Key_Down });
+        QCOMPARE(m->okText(), "Reset");
+        press({ Qt::Key_Down, Qt::Key_Down });
+        QCOMPARE(m->okText(), "Copy");
+    }
+
     void everyPageKeepsItsValues()
     {
         show("CheckBox");

@@ -64,11 +64,14 @@ class tst_ComponentsScreen : public ScreenTest
     {
         QQmlComponent component(view()->engine());
         component.setData(controller()->qmlText().toUtf8(), {});
-        const std::unique_ptr<QObject> fresh(component.create());
-        if (fresh == nullptr || control() == nullptr)
+        const std::unique_ptr<QObject> made(component.create());
+        if (made == nullptr || control() == nullptr)
             return controller()->qmlText() + ": " + component.errorString();
+        const QObject *fresh = made.get();
+        if (!controller()->page().surroundings.isEmpty())
+            fresh = qobject_cast<QQuickItem *>(made.get())->childItems().constLast();
         for (const gallery::ComponentEditor &editor : controller()->page().editors) {
-            const QVariant expected = QQmlProperty::read(fresh.get(), editor.name);
+            const QVariant expected = QQmlProperty::read(fresh, editor.name);
             const QVariant found = QQmlProperty::read(control(), editor.name);
             if (expected != found)
                 return controller()->qmlText() + ": " + editor.name + " is " + found.toString();
@@ -250,6 +253,85 @@ private Q_SLOTS:
         }
     }
 
+    void whatIsShownOfAGridAreWholeRows_data() { everyControlFitsOnItsStage_data(); }
+    void whatIsShownOfAGridAreWholeRows()
+    {
+        QFETCH(QString, resolution);
+        gallery::Options options;
+        options.resolution = resolution;
+        start(options);
+        for (const QString name : { "MediaGridView", "ScrolledGridView" }) {
+            show(name);
+            const QRectF view = sceneRect(control());
+            QList<QRectF> seen;
+            collectButtons(control(), view, seen);
+            QVERIFY(seen.size() >= 6);
+            for (qsizetype i = 0; i < seen.size(); ++i) {
+                QVERIFY2(view.adjusted(-1, -1, 1, 1).contains(seen.at(i)), qPrintable(name));
+                for (qsizetype j = 0; j < i; ++j)
+                    QVERIFY2(!seen.at(i).intersects(seen.at(j)), qPrintable(name));
+            }
+        }
+    }
+
+    void theLastPageIsNotUnderAFade_data() { everyControlFitsOnItsStage_data(); }
+    void theLastPageIsNotUnderAFade()
+    {
+        QFETCH(QString, resolution);
+        gallery::Options options;
+        options.resolution = resolution;
+        start(options);
+        for (const Qt::Key key : { Qt::Key_End, Qt::Key_Home }) {
+            press({ key });
+            const QRectF row = sceneRect(item("focusPlate"));
+            const QList<QQuickItem *> fades = items("edgeFade");
+            QVERIFY(!fades.isEmpty());
+            for (const QQuickItem *fade : fades)
+                QVERIFY(!sceneRect(fade).intersects(row));
+        }
+    }
+
+    void namesOfPropertiesAreToldInFull_data() { everyControlFitsOnItsStage_data(); }
+    void namesOfPropertiesAreToldInFull()
+    {
+        QFETCH(QString, resolution);
+        gallery::Options options;
+        options.resolution = resolution;
+        start(options);
+        press({ Qt::Key_Home });
+        for (int row = 0; row < pageCount(); ++row, press({ Qt::Key_Down })) {
+            press({ Qt::Key_Right });
+            const auto *pageLabel = item("pages")->property("currentItem").value<QQuickItem *>();
+            QStringList elided;
+            collectElided(pageLabel, elided);
+            for (int editor = 0; editor < controller()->editors()->rowCount(); ++editor) {
+                press({ Qt::Key_Down });
+                collectElided(item("editors")->property("currentItem").value<QQuickItem *>(), elided);
+            }
+            // A value may be as long as it likes.
+            elided.removeIf([this](const QString &text) {
+                return std::none_of(controller()->page().editors.cbegin(),
+                                    controller()->page().editors.cend(),
+                                    [&text](const gallery::ComponentEditor &one) { return one.name == text; });
+            });
+            QCOMPARE(elided, QStringList());
+            press({ Qt::Key_Back });
+        }
+    }
+
+    void hintsTellWhatTheKeysDo()
+    {
+        start();
+        QVERIFY(texts().contains("Open") && texts().contains("Leave"));
+        QVERIFY(!texts().contains("Try out"));
+        press({ Qt::Key_Right });
+        QVERIFY(!texts().contains("OK") && texts().contains("Properties") && texts().contains("Controls"));
+        press({ Qt::Key_Down });
+        QVERIFY(texts().contains("OK") && texts().contains("Next"));
+        show("CheckBox");
+        QVERIFY(texts().contains("Try out"));
+    }
+
     void madeAnewItLooksTheSame()
     {
         start();
@@ -346,6 +428,25 @@ private Q_SLOTS:
     }
 
 private:
+    static void collectButtons(const QQuickItem *item, const QRectF &view, QList<QRectF> &seen)
+    {
+        const QRectF place = sceneRect(item);
+        if (item->isVisible() && item->property("titleText").isValid() && place.intersects(view))
+            seen.append(place);
+        const QList<QQuickItem *> children = item->childItems();
+        for (const QQuickItem *child : children)
+            collectButtons(child, view, seen);
+    }
+
+    static void collectElided(const QQuickItem *item, QStringList &elided)
+    {
+        if (item->property("truncated").toBool())
+            elided.append(item->property("text").toString());
+        const QList<QQuickItem *> children = item->childItems();
+        for (const QQuickItem *child : children)
+            collectElided(child, elided);
+    }
+
     /*! Throws the screens away and makes them anew from the same controllers. */
     void makeAnew()
     {
