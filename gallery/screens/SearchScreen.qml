@@ -9,7 +9,7 @@ FocusScope {
 
     required property SearchController search
     required property GuideController guide
-    // Nothing is told of a cursor that has not its place yet.
+    // Nothing is told of a cursor that has not its place yet, nor of a keyboard that is not as it was.
     property bool completed: false
     // Two tiles are side by side.
     readonly property int resultsWidth: Look.wide ? results.leftMargin + 2 * results.itemWidth
@@ -27,6 +27,7 @@ FocusScope {
 
     Binding {
         screen.search.resultsBelow: !Look.wide
+        screen.search.keyEdges: keyboard.currentEdges
     }
     Rectangle {
         anchors.fill: parent
@@ -79,19 +80,16 @@ FocusScope {
         columnSpacing: screen.keySpacing
         // Thirteen stand side by side.
         keyWidth: Math.floor((screen.keyboardWidth + screen.keySpacing) / 13) - screen.keySpacing
-        keyHeight: Look.wide ? Math.round(60 * Look.unit) : 36
-        wrapsHorizontally: !Look.wide
-        wrapsVertically: Look.wide
+        keyHeight: Look.wide ? Math.round(60 * Look.unit) : 32
+        openEdges: screen.search.openEdges
         currentKey: screen.search.keyboardKey
         onCurrentKeyChanged: screen.search.keyboardKey = currentKey
         language: screen.search.keyboardLanguage
-        onLanguageChanged: screen.search.keyboardLanguage = language
         shift: screen.search.keyboardShift
-        onShiftChanged: screen.search.keyboardShift = shift
         capsLock: screen.search.keyboardCapsLock
-        onCapsLockChanged: screen.search.keyboardCapsLock = capsLock
         symbols: screen.search.keyboardSymbols
-        onSymbolsChanged: screen.search.keyboardSymbols = symbols
+        // All of it changes with one signal, and is kept at once: in parts, the next part would be as it was before.
+        onLanguageChanged: if (screen.completed) screen.search.keepKeyboard(language, shift, capsLock, symbols)
     }
     SearchResults {
         id: results
@@ -100,7 +98,7 @@ FocusScope {
         anchors.topMargin: Look.small - (Look.wide ? growth - Look.frame : 0)
         anchors.right: header.right
         width: screen.resultsWidth
-        room: screen.height - Look.safeY - y
+        room: (Look.wide ? screen.height - Look.safeY : facts.y) - y
         search: screen.search
     }
     Label {
@@ -113,47 +111,23 @@ FocusScope {
         wrapMode: Text.Wrap
         maximumLineCount: 3
     }
-    // A tile has no room for all of a title.
-    Column {
-        anchors.top: keyboard.bottom
-        anchors.topMargin: Look.medium
+    // A tile has no room for all of a title and a day.
+    SearchFacts {
+        id: facts
+
+        objectName: "searchFacts"
+        y: Look.wide ? keyboard.y + keyboard.height + Look.medium : footer.y - Look.tiny - height
         anchors.left: keyboard.left
         width: keyboard.width
-        visible: Look.wide && screen.search.inResults
-        spacing: Look.tiny
-
-        Label {
-            width: parent.width
-            text: screen.search.title
-            font: Look.heading
-        }
-        Label {
-            width: parent.width
-            text: screen.search.facts
-            font: Look.caption
-            color: Look.quietText
-        }
+        search: screen.search
     }
-    Row {
-        anchors.left: header.left
+    SearchHints {
+        id: footer
+
         anchors.bottom: parent.bottom
         anchors.bottomMargin: Look.safeY
-        visible: Look.wide
-        spacing: Look.large
-
-        KeyHint {
-            visible: screen.search.inResults
-            key: qsTr("OK", "a key of the remote control")
-            text: qsTr("Details")
-        }
-        KeyHint {
-            visible: !screen.search.inResults && results.count > 0
-            key: screen.search.mirrored ? "◀" : "▶"
-            text: qsTr("Results")
-        }
-        KeyHint {
-            key: qsTr("BACK", "a key of the remote control")
-            text: screen.search.inResults ? qsTr("Keyboard") : qsTr("Close")
-        }
+        anchors.left: keyboard.left
+        width: keyboard.width
+        search: screen.search
     }
 }

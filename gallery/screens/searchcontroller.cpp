@@ -7,6 +7,7 @@
 
 #include <QtCore/qcoreapplication.h>
 #include <QtCore/qelapsedtimer.h>
+#include <QtCore/qhash.h>
 #include <QtCore/qlocale.h>
 
 #include <algorithm>
@@ -35,6 +36,9 @@ SearchController::SearchController(Clock *clock, Marks *favourites, QObject *par
     m_work.setInterval(0);
     connect(&m_work, &QTimer::timeout, this, &SearchController::work);
     connect(m_clock, &Clock::nowChanged, this, &SearchController::search);
+    for (const auto change : { &SearchController::selectionChanged, &SearchController::resultsChanged,
+                               &SearchController::layoutChanged, &SearchController::mirroredChanged })
+        connect(this, change, this, &SearchController::waysChanged);
 }
 
 void SearchController::setGuide(const Guide &guide)
@@ -57,7 +61,9 @@ void SearchController::start()
     m_keyboardCapsLock = false;
     m_keyboardSymbols = false;
     m_keyboardLanguage.clear();
+    m_startingKeyboard = true;
     Q_EMIT keyboardChanged();
+    m_startingKeyboard = false;
     change({}, 0);
     setInResults(false);
     // A long guide is read while the first letter is being chosen.
@@ -68,9 +74,10 @@ void SearchController::start()
 
 void SearchController::setText(const QString &text)
 {
-    if (text == m_text)
+    const QString bounded = text.left(maximumLength());
+    if (bounded == m_text)
         return;
-    m_text = text;
+    m_text = bounded;
     Q_EMIT textChanged();
     searchAnew();
 }
@@ -114,6 +121,22 @@ void SearchController::setKeyboardLanguage(const QString &language)
 {
     if (language == keyboardLanguage())
         return;
+    m_keyboardLanguage = language;
+    m_keyboardLocale = QLocale().name();
+    Q_EMIT keyboardChanged();
+}
+
+void SearchController::keepKeyboard(const QString &language, bool shift, bool capsLock, bool symbols)
+{
+    // While it takes over a start, it tells of what it has not taken over yet.
+    if (m_startingKeyboard)
+        return;
+    if (language == keyboardLanguage() && shift == m_keyboardShift && capsLock == m_keyboardCapsLock
+        && symbols == m_keyboardSymbols)
+        return;
+    m_keyboardShift = shift;
+    m_keyboardCapsLock = capsLock;
+    m_keyboardSymbols = symbols;
     m_keyboardLanguage = language;
     m_keyboardLocale = QLocale().name();
     Q_EMIT keyboardChanged();
@@ -236,6 +259,7 @@ QString SearchController::message() const
 
 bool SearchController::press(int key, const QString &text, int modifiers)
 {
+    setNotice({});
     if (isBackKey(key)) {
         if (m_inResults)
             setInResults(false);
@@ -257,10 +281,11 @@ bool SearchController::press(int key, const QString &text, int modifiers)
 
 bool SearchController::pressOnKeyboard(int key)
 {
-    const bool leadsToResults = m_resultsBelow ? key == Qt::Key_Down : readingStep(key, m_mirrored) == 1;
-    if (leadsToResults)
+    const bool leadsThere = key == Qt::Key_Down || (!m_resultsBelow && readingStep(key, m_mirrored) == 1)
+                            || key == Qt::Key_PageDown || channelStep(key) < 0;
+    if (leadsThere)
         setInResults(true);
-    return leadsToResults || isSelectKey(key) || isArrowKey(key);
+    return leadsThere || isSelectKey(key) || isArrowKey(key);
 }
 
 bool SearchController::pressInResults(int key)
@@ -270,15 +295,41 @@ bool SearchController::pressInResults(int key)
         Q_EMIT itemOpened();
     else if (meant == Qt::Key_Yellow)
         m_favourites->toggle(item()->id);
+    else if (isPlayPauseKey(key))
+        play();
+    else if (channelStep(key) != 0)
+        setInResults(channelStep(key) < 0);
     else
         return moveInResults(key);
     return true;
 }
 
+// As in the guide; what is not on yet, and a film, has a page that tells what can be done with it.
+void SearchController::play()
+{
+    const bool hasBegun = isOfChannel() && item()->position >= 0;
+    if (hasBegun)
+        Q_EMIT watchRequested();
+    else
+        Q_EMIT itemOpened();
+}
+
+void SearchController::refuse()
+{
+    setNotice(lockedText());
+}
+
+void SearchController::setNotice(const QString &notice)
+{
+    if (notice == m_notice)
+        return;
+    m_notice = notice;
+    Q_EMIT noticeChanged();
+}
+
 bool SearchController::moveInResults(int key)
 {
     const int column = m_row % m_columns;
-    const int lastLine = (m_results.count() - 1) / m_columns;
     if (const int step = readingStep(key, m_mirrored)) {
         if (column + step < 0 && !m_resultsBelow)
             setInResults(false);
@@ -286,30 +337,29 @@ bool SearchController::moveInResults(int key)
             chooseResult(m_row + step);
         return true;
     }
-    int line = m_row / m_columns;
-    switch (key) {
-    case Qt::Key_Up:
-        if (line == 0 && m_resultsBelow)
-            setInResults(false);
-        --line;
-        break;
-    case Qt::Key_Down:
-        ++line;
-        break;
-    case Qt::Key_PageUp:
-        line -= m_lines;
-        break;
-    case Qt::Key_PageDown:
-        line += m_lines;
-        break;
-    case Qt::Key_Home:
-    case Qt::Key_End:
+    if (key == Qt::Key_Home || key == Qt::Key_End) {
         chooseResult(key == Qt::Key_Home ? 0 : m_results.count() - 1);
         return true;
-    default:
-        return false;
     }
-    chooseResult(std::clamp(line, 0, lastLine) * m_columns + column);
+    return moveByLines(key);
+}
+
+bool SearchController::moveByLines(int key)
+{
+    static const QHash<int, std::pair<int, bool>> steps { { Qt::Key_Up, { -1, false } },
+                                                          { Qt::Key_Down, { 1, false } },
+                                                          { Qt::Key_PageUp, { -1, true } },
+                                                          { Qt::Key_PageDown, { 1, true } } };
+    const auto step = steps.constFind(key);
+    if (step == steps.cend())
+        return false;
+    const auto [direction, byPage] = *step;
+    const int line = m_row / m_columns;
+    const int lastLine = (m_results.count() - 1) / m_columns;
+    if (line == 0 && direction < 0 && (byPage || m_resultsBelow))
+        setInResults(false);
+    const int next = std::clamp(line + direction * (byPage ? m_lines : 1), 0, lastLine);
+    chooseResult(next * m_columns + m_row % m_columns);
     return true;
 }
 
@@ -364,6 +414,33 @@ void SearchController::setResultsBelow(bool below)
         return;
     m_resultsBelow = below;
     Q_EMIT layoutChanged();
+}
+
+int SearchController::openEdges() const
+{
+    if (m_results.count() == 0)
+        return 0;
+    const int side = m_mirrored ? Qt::LeftEdge : Qt::RightEdge;
+    return m_resultsBelow ? int(Qt::BottomEdge) : Qt::BottomEdge | side;
+}
+
+void SearchController::setKeyEdges(int edges)
+{
+    if (edges == m_keyEdges)
+        return;
+    m_keyEdges = edges;
+    Q_EMIT waysChanged();
+}
+
+QString SearchController::resultsArrow() const
+{
+    const int ways = m_inResults ? 0 : openEdges() & m_keyEdges;
+    // Where there are two, the one that leads to where the results are.
+    if (ways & Qt::RightEdge)
+        return QStringLiteral("▶");
+    if (ways & Qt::LeftEdge)
+        return QStringLiteral("◀");
+    return ways & Qt::BottomEdge ? QStringLiteral("▼") : QString();
 }
 
 void SearchController::setMirrored(bool mirrored)

@@ -24,7 +24,7 @@ class Clock;
 class SearchController : public QObject
 {
     Q_OBJECT
-    /*! What is searched for, and the place of the cursor in it. */
+    /*! What is searched for, of a longer text only its beginning, and the place of the cursor in it. */
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
     Q_PROPERTY(int cursor READ cursor WRITE setCursor NOTIFY cursorChanged)
     /*! The most characters that the text may have. */
@@ -41,6 +41,10 @@ class SearchController : public QObject
     /*! The chosen result's title, and what is known of it: "2021 · Drama · 1 h 48 min". */
     Q_PROPERTY(QString title READ title NOTIFY selectionChanged)
     Q_PROPERTY(QString facts READ facts NOTIFY selectionChanged)
+    /*! Whether the chosen result is something of a channel, so that its channel is what is made a favourite. */
+    Q_PROPERTY(bool ofChannel READ isOfChannel NOTIFY selectionChanged)
+    /*! What is told until the next key: that the channel is not played because it is locked; else empty. */
+    Q_PROPERTY(QString notice READ notice NOTIFY noticeChanged)
     /*! What stands in the place of results when there are none. */
     Q_PROPERTY(QString message READ message NOTIFY resultsChanged)
     /*! What is looked for has not all been looked at yet. */
@@ -52,6 +56,14 @@ class SearchController : public QObject
     /*! Whether the results are below the keyboard; else they are beside it, where reading goes on. */
     Q_PROPERTY(bool resultsBelow READ isResultsBelow WRITE setResultsBelow NOTIFY layoutChanged)
 
+    /*!
+        The edges of the on-screen keyboard beyond which an arrow leads to the results, and those that its current key
+        is at (it tells them): Qt.RightEdge and so on. Without results no arrow leads there.
+    */
+    Q_PROPERTY(int openEdges READ openEdges NOTIFY waysChanged)
+    Q_PROPERTY(int keyEdges READ keyEdges WRITE setKeyEdges NOTIFY waysChanged)
+    /*! The arrow that leads from the current key to the results, as a sign; empty where none does. */
+    Q_PROPERTY(QString resultsArrow READ resultsArrow NOTIFY waysChanged)
     /*! The state of the on-screen keyboard, kept here while it comes and goes. Key: -1 for the first letter. */
     Q_PROPERTY(int keyboardKey MEMBER m_keyboardKey NOTIFY keyboardChanged)
     Q_PROPERTY(bool keyboardShift MEMBER m_keyboardShift NOTIFY keyboardChanged)
@@ -94,6 +106,10 @@ public:
     QString facts() const { return item() == nullptr ? QString() : gallery::facts(*item()); }
     /*! The chosen result; null without any. */
     const MediaItem *item() const { return m_row < 0 ? nullptr : &m_results.items().at(m_row); }
+    bool isOfChannel() const { return item() != nullptr && item()->isProgramme(); }
+    QString notice() const { return m_notice; }
+    /*! Tells why the chosen result's channel is not played: it is locked. Until the next key. */
+    void refuse();
 
     int columns() const { return m_columns; }
     void setColumns(int columns);
@@ -101,8 +117,14 @@ public:
     void setLines(int lines);
     bool isResultsBelow() const { return m_resultsBelow; }
     void setResultsBelow(bool below);
+    int openEdges() const;
+    int keyEdges() const { return m_keyEdges; }
+    void setKeyEdges(int edges);
+    QString resultsArrow() const;
     QString keyboardLanguage() const;
     void setKeyboardLanguage(const QString &language);
+    /*! The on-screen keyboard tells all of its state but the current key. */
+    Q_INVOKABLE void keepKeyboard(const QString &language, bool shift, bool capsLock, bool symbols);
     bool isMirrored() const { return m_mirrored; }
     void setMirrored(bool mirrored);
 
@@ -110,10 +132,11 @@ public:
         Handles a remote key that the on-screen keyboard has no use for; false when it means nothing here. \a text is
         what it types on a real keyboard while \a modifiers are held.
 
-        From the keyboard, the arrow that leads to the results chooses one, and the arrow back from the first column or
-        line, or Back, returns to the keyboard. Among the results arrows, Page Up, Page Down, Home and End choose one,
-        Return and Info open it, and the yellow key makes it a favourite or none. On the keyboard Back asks to leave.
-        Digits and what a real keyboard types go into the text from anywhere.
+        From the keyboard, an arrow beyond an open edge, Page Down and Channel Down lead to the results. The arrow back
+        from the first column or line, Page Up from the first line, Channel Up and Back return to the keyboard. Among the
+        results arrows, Page Up, Page Down, Home and End choose one, Return and Info open it, Play plays the channel of a
+        programme that has begun and opens anything else, and the yellow key makes the result, or its channel, a favourite
+        or none. On the keyboard Back asks to leave. Digits and what a real keyboard types go into the text from anywhere.
     */
     Q_INVOKABLE bool press(int key, const QString &text = {}, int modifiers = Qt::NoModifier);
 
@@ -122,17 +145,24 @@ Q_SIGNALS:
     void cursorChanged();
     void selectionChanged();
     void resultsChanged();
+    void noticeChanged();
     void layoutChanged();
+    void waysChanged();
     void keyboardChanged();
     void mirroredChanged();
     /*! The chosen result is to be shown on its own. */
     void itemOpened();
+    /*! The channel of the chosen result, a programme that has begun, is to be played. */
+    void watchRequested();
     void leaveRequested();
 
 private:
     bool pressOnKeyboard(int key);
     bool pressInResults(int key);
     bool moveInResults(int key);
+    bool moveByLines(int key);
+    void play();
+    void setNotice(const QString &notice);
     void insert(const QString &text);
     void change(const QString &text, int cursor);
     void searchAnew();
@@ -165,7 +195,10 @@ private:
     bool m_inResults = false;
     bool m_searching = false;
     bool m_otherWords = false; // since the results that are shown
+    QString m_notice;
+    int m_keyEdges = 0;
     int m_keyboardKey = -1;
+    bool m_startingKeyboard = false;
     bool m_keyboardShift = false;
     bool m_keyboardCapsLock = false;
     bool m_keyboardSymbols = false;

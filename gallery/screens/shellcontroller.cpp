@@ -76,6 +76,10 @@ void ShellController::connectScreens()
     connect(&m_player, &PlayerController::leaveRequested, this, &ShellController::goBack);
     connect(&m_series, &SeriesController::backRequested, this, &ShellController::goBack);
     connect(&m_search, &SearchController::itemOpened, this, [this] { openDetails(*m_search.item()); });
+    connect(&m_search, &SearchController::watchRequested, this, [this] {
+        if (!watch(*m_search.item()))
+            m_search.refuse();
+    });
     connect(&m_search, &SearchController::leaveRequested, this, &ShellController::goBack);
     connect(&m_settings, &SettingsController::leaveRequested, this, &ShellController::goBack);
     connect(&m_components, &ComponentsController::leaveRequested, this, &ShellController::goBack);
@@ -229,13 +233,18 @@ void ShellController::openEpisodes()
 
 void ShellController::watchItem()
 {
-    const MediaItem &item = m_detail.item();
-    const int channel = m_guide.shownGuide().channelIndex(item.channelId);
-    const bool isOver = item.start.addSecs(qint64(item.duration)) <= m_clock.now();
-    if (channel >= 0 && m_guide.shownGuide().channel(channel).locked)
+    if (!watch(m_detail.item()))
         m_detail.refuse();
-    else
-        openPlayer(channel, isOver ? item.start : QDateTime());
+}
+
+bool ShellController::watch(const MediaItem &item)
+{
+    const int channel = m_guide.shownGuide().channelIndex(item.channelId);
+    if (channel >= 0 && m_guide.shownGuide().channel(channel).locked)
+        return false;
+    const bool isOver = item.start.addSecs(qint64(item.duration)) <= m_clock.now();
+    openPlayer(channel, isOver ? item.start : QDateTime());
+    return true;
 }
 
 } // namespace gallery

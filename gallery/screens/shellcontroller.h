@@ -114,6 +114,8 @@ private:
     void updateDetails();
     void openEpisodes();
     void watchItem();
+    /*! Plays the channel of \a item, a programme, from its start when it is over; false when the channel is locked. */
+    bool watch(const MediaItem &item);
 
     Clock m_clock;
     Marks m_favourites;

@@ -198,6 +198,30 @@
         <source>Controls</source>
         <translation>العناصر</translation>
     </message>
+    <message>
+        <source>Open</source>
+        <translation>فتح</translation>
+    </message>
+    <message>
+        <source>Switch</source>
+        <translation>تبديل</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>إعادة ضبط</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>التالي</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>مغادرة</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>الخصائص</translation>
+    </message>
 </context>
 <context>
     <name>ComponentPageList</name>
@@ -699,22 +723,7 @@
     </message>
 </context>
 <context>
-    <name>SearchResults</name>
-    <message>
-        <source>Results</source>
-        <translation>النتائج</translation>
-    </message>
-</context>
-<context>
-    <name>SearchScreen</name>
-    <message>
-        <source>Search</source>
-        <translation>البحث</translation>
-    </message>
-    <message>
-        <source>Programmes, films, series</source>
-        <translation>برامج وأفلام ومسلسلات</translation>
-    </message>
+    <name>SearchHints</name>
     <message>
         <source>OK</source>
         <comment>a key of the remote control</comment>
@@ -723,6 +732,24 @@
     <message>
         <source>Details</source>
         <translation>التفاصيل</translation>
+    </message>
+    <message>
+        <source>YELLOW</source>
+        <comment>a key of the remote control</comment>
+        <translation>أصفر</translation>
+    </message>
+    <message>
+        <source>Favourite channel</source>
+        <translation>القناة إلى المفضلة</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>إلى المفضلة</translation>
+    </message>
+    <message>
+        <source>CH −</source>
+        <comment>a key of the remote control</comment>
+        <translation>CH −</translation>
     </message>
     <message>
         <source>Results</source>
@@ -738,8 +765,26 @@
         <translation>لوحة المفاتيح</translation>
     </message>
     <message>
-        <source>Close</source>
-        <translation>إغلاق</translation>
+        <source>Leave</source>
+        <translation>مغادرة</translation>
+    </message>
+</context>
+<context>
+    <name>SearchResults</name>
+    <message>
+        <source>Results</source>
+        <translation>النتائج</translation>
+    </message>
+</context>
+<context>
+    <name>SearchScreen</name>
+    <message>
+        <source>Search</source>
+        <translation>البحث</translation>
+    </message>
+    <message>
+        <source>Programmes, films, series</source>
+        <translation>برامج وأفلام ومسلسلات</translation>
     </message>
     <message>
         <source>Type the name of a programme, a film or a series</source>

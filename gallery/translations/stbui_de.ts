@@ -198,6 +198,30 @@
         <source>Controls</source>
         <translation>Elemente</translation>
     </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Switch</source>
+        <translation>Umschalten</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Verlassen</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
 </context>
 <context>
     <name>ComponentPageList</name>
@@ -699,22 +723,7 @@
     </message>
 </context>
 <context>
-    <name>SearchResults</name>
-    <message>
-        <source>Results</source>
-        <translation>Ergebnisse</translation>
-    </message>
-</context>
-<context>
-    <name>SearchScreen</name>
-    <message>
-        <source>Search</source>
-        <translation>Suche</translation>
-    </message>
-    <message>
-        <source>Programmes, films, series</source>
-        <translation>Sendungen, Filme, Serien</translation>
-    </message>
+    <name>SearchHints</name>
     <message>
         <source>OK</source>
         <comment>a key of the remote control</comment>
@@ -723,6 +732,24 @@
     <message>
         <source>Details</source>
         <translation>Details</translation>
+    </message>
+    <message>
+        <source>YELLOW</source>
+        <comment>a key of the remote control</comment>
+        <translation>GELB</translation>
+    </message>
+    <message>
+        <source>Favourite channel</source>
+        <translation>Sender als Favorit</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Favorit</translation>
+    </message>
+    <message>
+        <source>CH −</source>
+        <comment>a key of the remote control</comment>
+        <translation>CH −</translation>
     </message>
     <message>
         <source>Results</source>
@@ -738,8 +765,26 @@
         <translation>Tastatur</translation>
     </message>
     <message>
-        <source>Close</source>
-        <translation>Schließen</translation>
+        <source>Leave</source>
+        <translation>Verlassen</translation>
+    </message>
+</context>
+<context>
+    <name>SearchResults</name>
+    <message>
+        <source>Results</source>
+        <translation>Ergebnisse</translation>
+    </message>
+</context>
+<context>
+    <name>SearchScreen</name>
+    <message>
+        <source>Search</source>
+        <translation>Suche</translation>
+    </message>
+    <message>
+        <source>Programmes, films, series</source>
+        <translation>Sendungen, Filme, Serien</translation>
     </message>
     <message>
         <source>Type the name of a programme, a film or a series</source>

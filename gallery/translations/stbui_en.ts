@@ -198,6 +198,30 @@
         <source>Controls</source>
         <translation>Controls</translation>
     </message>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Switch</source>
+        <translation>Switch</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Next</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Leave</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Properties</translation>
+    </message>
 </context>
 <context>
     <name>ComponentPageList</name>
@@ -699,22 +723,7 @@
     </message>
 </context>
 <context>
-    <name>SearchResults</name>
-    <message>
-        <source>Results</source>
-        <translation>Results</translation>
-    </message>
-</context>
-<context>
-    <name>SearchScreen</name>
-    <message>
-        <source>Search</source>
-        <translation>Search</translation>
-    </message>
-    <message>
-        <source>Programmes, films, series</source>
-        <translation>Programmes, films, series</translation>
-    </message>
+    <name>SearchHints</name>
     <message>
         <source>OK</source>
         <comment>a key of the remote control</comment>
@@ -723,6 +732,24 @@
     <message>
         <source>Details</source>
         <translation>Details</translation>
+    </message>
+    <message>
+        <source>YELLOW</source>
+        <comment>a key of the remote control</comment>
+        <translation>YELLOW</translation>
+    </message>
+    <message>
+        <source>Favourite channel</source>
+        <translation>Favourite channel</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>Favourite</translation>
+    </message>
+    <message>
+        <source>CH −</source>
+        <comment>a key of the remote control</comment>
+        <translation>CH −</translation>
     </message>
     <message>
         <source>Results</source>
@@ -738,8 +765,26 @@
         <translation>Keyboard</translation>
     </message>
     <message>
-        <source>Close</source>
-        <translation>Close</translation>
+        <source>Leave</source>
+        <translation>Leave</translation>
+    </message>
+</context>
+<context>
+    <name>SearchResults</name>
+    <message>
+        <source>Results</source>
+        <translation>Results</translation>
+    </message>
+</context>
+<context>
+    <name>SearchScreen</name>
+    <message>
+        <source>Search</source>
+        <translation>Search</translation>
+    </message>
+    <message>
+        <source>Programmes, films, series</source>
+        <translation>Programmes, films, series</translation>
     </message>
     <message>
         <source>Type the name of a programme, a film or a series</source>

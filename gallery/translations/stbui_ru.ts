@@ -198,6 +198,30 @@
         <source>Controls</source>
         <translation>Элементы</translation>
     </message>
+    <message>
+        <source>Open</source>
+        <translation>Открыть</translation>
+    </message>
+    <message>
+        <source>Switch</source>
+        <translation>Переключить</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Сбросить</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Дальше</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Выйти</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Свойства</translation>
+    </message>
 </context>
 <context>
     <name>ComponentPageList</name>
@@ -699,22 +723,7 @@
     </message>
 </context>
 <context>
-    <name>SearchResults</name>
-    <message>
-        <source>Results</source>
-        <translation>Результаты</translation>
-    </message>
-</context>
-<context>
-    <name>SearchScreen</name>
-    <message>
-        <source>Search</source>
-        <translation>Поиск</translation>
-    </message>
-    <message>
-        <source>Programmes, films, series</source>
-        <translation>Передачи, фильмы, сериалы</translation>
-    </message>
+    <name>SearchHints</name>
     <message>
         <source>OK</source>
         <comment>a key of the remote control</comment>
@@ -723,6 +732,24 @@
     <message>
         <source>Details</source>
         <translation>Подробнее</translation>
+    </message>
+    <message>
+        <source>YELLOW</source>
+        <comment>a key of the remote control</comment>
+        <translation>ЖЁЛТАЯ</translation>
+    </message>
+    <message>
+        <source>Favourite channel</source>
+        <translation>Канал в избранное</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <translation>В избранное</translation>
+    </message>
+    <message>
+        <source>CH −</source>
+        <comment>a key of the remote control</comment>
+        <translation>CH −</translation>
     </message>
     <message>
         <source>Results</source>
@@ -738,8 +765,26 @@
         <translation>Клавиатура</translation>
     </message>
     <message>
-        <source>Close</source>
-        <translation>Закрыть</translation>
+        <source>Leave</source>
+        <translation>Выйти</translation>
+    </message>
+</context>
+<context>
+    <name>SearchResults</name>
+    <message>
+        <source>Results</source>
+        <translation>Результаты</translation>
+    </message>
+</context>
+<context>
+    <name>SearchScreen</name>
+    <message>
+        <source>Search</source>
+        <translation>Поиск</translation>
+    </message>
+    <message>
+        <source>Programmes, films, series</source>
+        <translation>Передачи, фильмы, сериалы</translation>
     </message>
     <message>
         <source>Type the name of a programme, a film or a series</source>

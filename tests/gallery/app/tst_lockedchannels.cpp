@@ -139,6 +139,22 @@ private Q_SLOTS:
         QVERIFY(!chosen().data(playable).toBool());
     }
 
+    void theSearchSaysSo()
+    {
+        fill(3, { 1 });
+        m->start("search");
+        m->search()->setText("140"); // what is on there
+        m->search()->press(Qt::Key_PageDown);
+        QCOMPARE(m->search()->item()->channelId, "1");
+        m->search()->press(Qt::Key_MediaPlay);
+        QCOMPARE(m->search()->notice(), lockedText());
+        QCOMPARE(m->screen(), "search");
+        m->search()->press(Qt::Key_Return);
+        QCOMPARE(m->screen(), "detail");
+        m->detail()->press(Qt::Key_Return);
+        QCOMPARE(m->detail()->message(), lockedText());
+    }
+
     void thePageOfWhatIsOnSaysSo()
     {
         fill(3, { 0, 1, 2 });

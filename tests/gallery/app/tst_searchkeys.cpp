@@ -80,13 +80,136 @@ private Q_SLOTS:
     void theResultsAreReachedWhereReadingGoesOn()
     {
         m->findFilms();
-        m->press({ Qt::Key_Left, Qt::Key_Up, Qt::Key_Down });
+        m->press({ Qt::Key_Left, Qt::Key_Up });
         QVERIFY(!m->search.isInResults());
         m->press({ Qt::Key_Right });
         QVERIFY(m->search.isInResults());
         QCOMPARE(m->chosen(), "F0");
         m->press({ Qt::Key_Right, Qt::Key_Left, Qt::Key_Left });
         QVERIFY(!m->search.isInResults());
+    }
+
+    void downBeyondTheLastRowLeadsToThemToo()
+    {
+        m->findFilms();
+        m->press({ Qt::Key_Down });
+        QVERIFY(m->search.isInResults());
+        m->press({ Qt::Key_Up }); // the keyboard is beside them
+        QVERIFY(m->search.isInResults());
+        m->press({ Qt::Key_Left });
+        QVERIFY(!m->search.isInResults());
+    }
+
+    void pageDownAndChannelDownLeadToThemAndBack_data()
+    {
+        QTest::addColumn<Qt::Key>("there");
+        QTest::addColumn<Qt::Key>("back");
+        QTest::newRow("page keys") << Qt::Key_PageDown << Qt::Key_PageUp;
+        QTest::newRow("channel keys") << Qt::Key_ChannelDown << Qt::Key_ChannelUp;
+    }
+    void pageDownAndChannelDownLeadToThemAndBack()
+    {
+        QFETCH(Qt::Key, there);
+        QFETCH(Qt::Key, back);
+        m->press({ there });
+        QVERIFY(!m->search.isInResults());
+        m->findFilms();
+        QVERIFY(!m->search.press(back)); // means nothing on the keyboard
+        QVERIFY(!m->search.isInResults());
+        m->press({ there });
+        QVERIFY(m->search.isInResults());
+        QCOMPARE(m->chosen(), "F0");
+        m->press({ back });
+        QVERIFY(!m->search.isInResults());
+    }
+
+    void channelUpLeadsBackFromAnyResult()
+    {
+        m->findFilms();
+        m->press({ Qt::Key_PageDown, Qt::Key_End, Qt::Key_ChannelDown });
+        QVERIFY(m->search.isInResults());
+        QCOMPARE(m->chosen(), "F8");
+        m->press({ Qt::Key_ChannelUp });
+        QVERIFY(!m->search.isInResults());
+    }
+
+    void theKeyboardGoesAroundWhereNoArrowLeadsToResults()
+    {
+        QCOMPARE(m->search.openEdges(), 0);
+        m->findFilms();
+        QCOMPARE(m->search.openEdges(), int(Qt::BottomEdge | Qt::RightEdge));
+        m->search.setMirrored(true);
+        QCOMPARE(m->search.openEdges(), int(Qt::BottomEdge | Qt::LeftEdge));
+        m->search.setResultsBelow(true);
+        QCOMPARE(m->search.openEdges(), int(Qt::BottomEdge));
+        m->search.setText("xyz");
+        QCOMPARE(m->search.openEdges(), 0);
+    }
+
+    void theArrowToTheResultsIsToldWhereItLeadsThere()
+    {
+        m->search.setKeyEdges(Qt::BottomEdge);
+        QCOMPARE(m->search.resultsArrow(), QString());
+        QSignalSpy changes(&m->search, &SearchController::waysChanged);
+        m->findFilms();
+        QVERIFY(changes.count() > 0);
+        QCOMPARE(m->search.resultsArrow(), "▼");
+        m->search.setKeyEdges(Qt::TopEdge | Qt::LeftEdge);
+        QCOMPARE(m->search.resultsArrow(), QString());
+        m->search.setMirrored(true);
+        QCOMPARE(m->search.resultsArrow(), "◀");
+        m->search.setMirrored(false);
+        m->search.setKeyEdges(Qt::BottomEdge | Qt::RightEdge);
+        QCOMPARE(m->search.resultsArrow(), "▶");
+        m->search.setResultsBelow(true);
+        QCOMPARE(m->search.resultsArrow(), "▼");
+        m->press({ Qt::Key_Down });
+        QCOMPARE(m->search.resultsArrow(), QString());
+    }
+
+    void playWatchesAProgrammeThatHasBegunAndOpensAnythingElse()
+    {
+        QSignalSpy watched(&m->search, &SearchController::watchRequested);
+        QSignalSpy opened(&m->search, &SearchController::itemOpened);
+        m->search.setText("a40"); // is on
+        m->press({ Qt::Key_Right, Qt::Key_MediaPlay });
+        QCOMPARE(watched.count(), 1);
+        m->search.setText("a39"); // is over
+        m->press({ Qt::Key_Right, Qt::Key_MediaTogglePlayPause });
+        QCOMPARE(watched.count(), 2);
+        QCOMPARE(opened.count(), 0);
+        m->search.setText("a41"); // is to come
+        m->press({ Qt::Key_Right, Qt::Key_MediaPlay });
+        m->findFilms();
+        m->press({ Qt::Key_Right, Qt::Key_MediaPlay });
+        QCOMPARE(watched.count(), 2);
+        QCOMPARE(opened.count(), 2);
+    }
+
+    void whyAChannelIsNotPlayedIsToldUntilTheNextKey()
+    {
+        m->findFilms();
+        m->press({ Qt::Key_Right });
+        QSignalSpy changes(&m->search, &SearchController::noticeChanged);
+        m->search.refuse();
+        m->search.refuse();
+        QCOMPARE(changes.count(), 1);
+        QCOMPARE(m->search.notice(), "This channel is locked");
+        m->press({ Qt::Key_Right });
+        QCOMPARE(m->search.notice(), QString());
+        QCOMPARE(m->chosen(), "F1");
+    }
+
+    void ofAProgrammeTheChannelIsMadeAFavourite()
+    {
+        m->search.setText("a4");
+        QVERIFY(m->search.isOfChannel());
+        const int role = m->search.results()->roleNames().key("favourite");
+        m->press({ Qt::Key_Right, Qt::Key_Yellow });
+        for (int row = 0; row < m->search.results()->rowCount(); ++row)
+            QCOMPARE(m->search.results()->index(row, 0).data(role).toBool(), true);
+        m->findFilms();
+        QVERIFY(!m->search.isOfChannel());
     }
 
     void mirroredTheResultsAreAtTheLeft()

@@ -114,21 +114,178 @@ private Q_SLOTS:
         QTRY_COMPARE(focusProblem(), QString());
     }
 
-    void upAndDownGoAroundTheKeyboardBesideTheResults()
+    void theKeyboardGoesAroundWhileNothingIsFound_data()
+    {
+        QTest::addColumn<QString>("resolution");
+        QTest::addColumn<Qt::Key>("key");
+        QTest::addColumn<int>("count");
+        for (const QString resolution : { "hd", "sd" }) {
+            const auto add = [&](const char *name, Qt::Key key, int count) {
+                QTest::addRow("%s %s", qPrintable(resolution), name) << resolution << key << count;
+            };
+            add("up", Qt::Key_Up, 5);
+            add("down", Qt::Key_Down, 5);
+            add("left", Qt::Key_Left, 12);
+            add("right", Qt::Key_Right, 12);
+        }
+    }
+    void theKeyboardGoesAroundWhileNothingIsFound()
+    {
+        QFETCH(QString, resolution);
+        QFETCH(Qt::Key, key);
+        QFETCH(int, count);
+        gallery::Options options;
+        options.resolution = resolution;
+        start(options);
+        const int first = keyboard()->property("currentKey").toInt();
+        QSet<int> keys;
+        for (int i = 0; i < count; ++i) {
+            press(key);
+            keys.insert(keyboard()->property("currentKey").toInt());
+        }
+        QCOMPARE(int(keys.size()), count);
+        QCOMPARE(keyboard()->property("currentKey").toInt(), first);
+        QVERIFY(!search()->isInResults());
+    }
+
+    void upGoesAroundTheKeyboardBesideTheResults()
     {
         start();
         type("f");
         const auto current = [this] { return keyboard()->property("currentKey").toInt(); };
-        for (const Qt::Key key : { Qt::Key_Down, Qt::Key_Up }) {
-            QList<int> keys { current() };
-            for (int row = 0; row < 5; ++row) {
-                press(key);
-                QVERIFY(!search()->isInResults());
-                keys.append(current());
-            }
-            QCOMPARE(QSet<int>(keys.cbegin(), keys.cend()).size(), 5);
-            QCOMPARE(keys.constLast(), keys.constFirst());
+        QList<int> keys { current() };
+        for (int row = 0; row < 5; ++row) {
+            press(Qt::Key_Up);
+            QVERIFY(!search()->isInResults());
+            keys.append(current());
         }
+        QCOMPARE(QSet<int>(keys.cbegin(), keys.cend()).size(), 5);
+        QCOMPARE(keys.constLast(), keys.constFirst());
+    }
+
+    void fromEveryKeyThreeArrowsLeadToTheResults_data()
+    {
+        QTest::addColumn<QString>("resolution");
+        QTest::newRow("beside") << "hd";
+        QTest::newRow("below") << "sd";
+    }
+    void fromEveryKeyThreeArrowsLeadToTheResults()
+    {
+        QFETCH(QString, resolution);
+        gallery::Options options;
+        options.resolution = resolution;
+        start(options);
+        type("f");
+        for (int key = 0; key < keyboard()->property("keyCount").toInt(); ++key) {
+            int fewest = 99;
+            for (int ups = 0; ups < 3; ++ups) {
+                keyboard()->setProperty("currentKey", key);
+                int presses = 0;
+                for (; presses < ups; ++presses)
+                    press(Qt::Key_Up);
+                for (; presses < 9 && !search()->isInResults(); ++presses)
+                    press(Qt::Key_Down);
+                QVERIFY(search()->isInResults());
+                press(Qt::Key_Back);
+                QVERIFY(!search()->isInResults());
+                fewest = std::min(fewest, presses);
+            }
+            QVERIFY2(fewest <= 3, qPrintable(QString::number(key)));
+        }
+    }
+
+    void theHintTellsTheKeyThatLeadsToTheResults_data()
+    {
+        QTest::addColumn<QString>("resolution");
+        QTest::newRow("beside") << "hd";
+        QTest::newRow("below") << "sd";
+    }
+    void theHintTellsTheKeyThatLeadsToTheResults()
+    {
+        QFETCH(QString, resolution);
+        gallery::Options options;
+        options.resolution = resolution;
+        start(options);
+        QVERIFY(!texts().contains("Results"));
+        type("f");
+        const QHash<QString, Qt::Key> keys { { "▶", Qt::Key_Right },
+                                             { "▼", Qt::Key_Down },
+                                             { "CH −", Qt::Key_ChannelDown } };
+        QSet<QString> seen;
+        for (int key = 0; key < keyboard()->property("keyCount").toInt(); ++key) {
+            keyboard()->setProperty("currentKey", key);
+            const QStringList shown = texts();
+            const qsizetype place = shown.indexOf("Results");
+            QVERIFY(place >= 0);
+            const QString hint = shown.at(place + 1); // the key of what has this text
+            QVERIFY2(keys.contains(hint), qPrintable(hint));
+            seen.insert(hint);
+            press(keys.value(hint));
+            QVERIFY2(search()->isInResults(), qPrintable(QString::number(key)));
+            QVERIFY(!texts().contains("Results"));
+            press(Qt::Key_Back);
+        }
+        QCOMPARE(int(seen.size()), resolution == "hd" ? 3 : 2);
+    }
+
+    void theDayAndTimeOfALateResultAreToldInFull_data()
+    {
+        QTest::addColumn<QString>("resolution");
+        QTest::addColumn<QString>("language");
+        for (const QString resolution : { "hd", "fullhd", "sd" }) {
+            for (const QString language : { "en", "ru", "de", "ar" })
+                QTest::addRow("%s %s", qPrintable(resolution), qPrintable(language))
+                        << resolution << language;
+        }
+    }
+    void theDayAndTimeOfALateResultAreToldInFull()
+    {
+        QFETCH(QString, resolution);
+        QFETCH(QString, language);
+        gallery::Options options;
+        options.resolution = resolution;
+        options.language = language;
+        start(options);
+        gallery::GuideBuilder builder;
+        const QDateTime later = guides::at(9, 30).addDays(4);
+        guides::addChannel(builder, "A channel",
+                           { { "A long title of a programme to come", later, later.addSecs(600) } });
+        shell()->guide()->setGuide(builder.take());
+        shell()->setCatalogue({});
+        type("long");
+        press(Qt::Key_PageDown);
+        QVERIFY(search()->isInResults());
+        const auto *facts = item("resultFacts");
+        QVERIFY(facts->property("text").toString().contains("09:30"));
+        QVERIFY(!facts->property("truncated").toBool());
+        QVERIFY(facts->property("contentWidth").toReal() <= facts->width());
+        QVERIFY(sceneRect(facts).bottom() <= view()->height() * 0.95);
+    }
+
+    void aLockedChannelIsRefusedInWords()
+    {
+        start();
+        type("f");
+        press(Qt::Key_PageDown);
+        search()->refuse();
+        QVERIFY(texts().contains("This channel is locked"));
+        QVERIFY(!texts().contains("BACK"));
+        press(Qt::Key_Down);
+        QVERIFY(!texts().contains("This channel is locked"));
+        QVERIFY(texts().contains("BACK"));
+    }
+
+    void yellowIsSaidToMakeTheChannelAFavourite()
+    {
+        start();
+        type("onl"); // a programme
+        press(Qt::Key_PageDown);
+        QVERIFY(texts().contains("Favourite channel"));
+        press(Qt::Key_Back);
+        search()->setText("f"); // films
+        press(Qt::Key_PageDown);
+        QVERIFY(!texts().contains("Favourite channel"));
+        QVERIFY(texts().contains("Favourite"));
     }
 
     void onANarrowScreenTheResultsAreBelow()
@@ -159,6 +316,29 @@ private Q_SLOTS:
         press(Qt::Key_Right);
         press(Qt::Key_Right);
         QVERIFY(!search()->isInResults());
+    }
+
+    void capsLockAndSymbolsHoldFromTheFirstPressOn()
+    {
+        start();
+        press(Qt::Key_Left); // around to caps lock
+        press(Qt::Key_Return);
+        QVERIFY(keyboard()->property("capsLock").toBool());
+        QVERIFY(search()->property("keyboardCapsLock").toBool());
+        press(Qt::Key_Right);
+        press(Qt::Key_Return);
+        press(Qt::Key_Return);
+        QCOMPARE(search()->text(), "QQ");
+        press(Qt::Key_Left);
+        press(Qt::Key_Down);
+        press(Qt::Key_Return); // shift
+        QVERIFY(view()->build({ { "controller", QVariant::fromValue(shell()) } }));
+        QVERIFY(keyboard()->property("capsLock").toBool() && keyboard()->property("shift").toBool());
+        search()->start();
+        QVERIFY(!keyboard()->property("capsLock").toBool() && !keyboard()->property("shift").toBool());
+        keyboard()->setProperty("symbols", true);
+        QVERIFY(keyboard()->property("symbols").toBool());
+        QVERIFY(search()->property("keyboardSymbols").toBool());
     }
 
     void theKeyboardHasTheLettersOfTheLanguage_data()

@@ -26,15 +26,13 @@ const QMap<QString, QString> &exceptions()
         { "detail.opening = EpisodesButton", "leads to another screen" },
         { "detail.opening = RateButton", "marks at once" },
         { "detail.button = NoButton", "some button always has the keys" },
-        // tst_shellcontroller goes there and presses OK.
-        { "detail.toCome = true", "found by typing its name, which is left out of the states" },
-        { "detail.reminder = true", "as before" },
         { "guide.loading = true", "no file is read" },
         { "channels.detailsRequested", "by the key Info; the home screen leads to the same page" },
         { "channels.hasNumbers = false", "a guide whose channels have numbers" },
         { "menu.open = true", "by the key Menu; the home screen has the same menu" },
         { "player.locked = true", "a locked channel is not played" },
         { "search.searching = true", "a small guide is searched at once" },
+        { "search.watchRequested", "by the key Play; the page that OK opens plays the same" },
         { "search.resultsBelow = true", "a narrow screen" },
         { "settings.unsaved = true", "there is no store that could fail" },
     };
