@@ -80,7 +80,7 @@ ListView {
             Accessible.name: row.number + " " + row.name
             Accessible.description: row.programme
             Accessible.focusable: true
-            Accessible.focused: visible && row.ListView.isCurrentItem
+            Accessible.focused: visible && row.ListView.isCurrentItem && Told.screenFocus
             Accessible.selectable: true
             Accessible.selected: row.playing
         }

@@ -78,7 +78,7 @@ FocusScope {
         Accessible.role: Accessible.StaticText
         Accessible.name: nothing.text
         Accessible.focusable: true
-        Accessible.focused: visible
+        Accessible.focused: visible && Told.screenFocus
 
         Label {
             id: nothing
@@ -164,6 +164,6 @@ FocusScope {
         visible: screen.guide.loading
         progress: screen.guide.loadProgress
         Accessible.focusable: true
-        Accessible.focused: visible && screen.channels.channelRow < 0
+        Accessible.focused: visible && screen.channels.channelRow < 0 && Told.screenFocus
     }
 }

@@ -19,7 +19,7 @@ PlayerButton {
     Accessible.role: Accessible.Button
     Accessible.name: titleText
     Accessible.focusable: true
-    Accessible.focused: visible && focused
+    Accessible.focused: visible && focused && Told.screenFocus
     Accessible.checkable: checkable
     Accessible.checked: checked
 

@@ -64,7 +64,7 @@ ListView {
             Accessible.role: Accessible.ListItem
             Accessible.name: cell.day.toLocaleDateString(Qt.locale(), Locale.LongFormat)
             Accessible.focusable: true
-            Accessible.focused: visible && cell.focused
+            Accessible.focused: visible && cell.focused && Told.screenFocus
             Accessible.selectable: true
             Accessible.selected: cell.chosen
         }

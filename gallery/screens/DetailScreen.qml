@@ -125,7 +125,7 @@ FocusScope {
             Accessible.role: Accessible.Button
             Accessible.name: titleText
             Accessible.focusable: true
-            Accessible.focused: visible && focused
+            Accessible.focused: visible && focused && Told.screenFocus
         }
         StandardButton {
             objectName: "button"
@@ -137,7 +137,7 @@ FocusScope {
             Accessible.role: Accessible.Button
             Accessible.name: titleText
             Accessible.focusable: true
-            Accessible.focused: visible && focused
+            Accessible.focused: visible && focused && Told.screenFocus
             Accessible.checkable: true
             Accessible.checked: screen.detail.favourite
         }
@@ -150,7 +150,7 @@ FocusScope {
             Accessible.role: Accessible.Button
             Accessible.name: titleText
             Accessible.focusable: true
-            Accessible.focused: visible && focused
+            Accessible.focused: visible && focused && Told.screenFocus
         }
         PlayerButton {
             objectName: "button"
@@ -160,7 +160,7 @@ FocusScope {
             Accessible.role: Accessible.Button
             Accessible.name: titleText
             Accessible.focusable: true
-            Accessible.focused: visible && focused
+            Accessible.focused: visible && focused && Told.screenFocus
         }
         PlayerButton {
             objectName: "button"
@@ -170,7 +170,7 @@ FocusScope {
             Accessible.role: Accessible.Button
             Accessible.name: titleText
             Accessible.focusable: true
-            Accessible.focused: visible && focused
+            Accessible.focused: visible && focused && Told.screenFocus
         }
         CheckableButton {
             objectName: "button"

@@ -12,7 +12,7 @@ SlidingPanel {
     Accessible.name: guide.title
     Accessible.description: guide.description
     Accessible.focusable: true
-    Accessible.focused: open
+    Accessible.focused: open && Told.screenFocus
 
     Rectangle {
         anchors.fill: parent

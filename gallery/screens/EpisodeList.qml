@@ -79,7 +79,7 @@ ListView {
             Accessible.name: row.title
             Accessible.description: row.status
             Accessible.focusable: true
-            Accessible.focused: visible && row.ListView.isCurrentItem && list.active
+            Accessible.focused: visible && row.ListView.isCurrentItem && list.active && Told.screenFocus
             Accessible.selectable: true
             Accessible.selected: row.ListView.isCurrentItem
         }

@@ -90,7 +90,7 @@ FocusScope {
             Accessible.role: Accessible.StaticText
             Accessible.name: nothing.text
             Accessible.focusable: true
-            Accessible.focused: visible
+            Accessible.focused: visible && Told.screenFocus
         }
         Label {
             id: nothing
@@ -187,7 +187,7 @@ FocusScope {
         visible: screen.guide.loading
         progress: screen.guide.loadProgress
         Accessible.focusable: true
-        Accessible.focused: visible && screen.guide.channelRow < 0
+        Accessible.focused: visible && screen.guide.channelRow < 0 && Told.screenFocus
     }
     DetailsOverlay {
         anchors.fill: parent

@@ -20,7 +20,7 @@ FocusScope {
         Accessible.role: Accessible.Graphic
         Accessible.name: screen.player.channelName + " " + screen.player.title
         Accessible.focusable: true
-        Accessible.focused: visible && !screen.overlaid
+        Accessible.focused: visible && !screen.overlaid && Told.screenFocus
     }
     SizedPicture {
         pictureWidth: Look.screenWidth

@@ -87,7 +87,7 @@ Item {
                 Accessible.name: row.exactDate + " " + row.title
                 Accessible.description: row.description
                 Accessible.focusable: true
-                Accessible.focused: visible && row.ListView.isCurrentItem && programmes.active
+                Accessible.focused: visible && row.ListView.isCurrentItem && programmes.active && Told.screenFocus
                 Accessible.selectable: true
                 Accessible.selected: row.ListView.isCurrentItem
             }
@@ -108,7 +108,7 @@ Item {
         Accessible.role: Accessible.StaticText
         Accessible.name: nothing.text
         Accessible.focusable: true
-        Accessible.focused: visible
+        Accessible.focused: visible && Told.screenFocus
 
         Label {
             id: nothing

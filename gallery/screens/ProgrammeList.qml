@@ -111,7 +111,7 @@ ListView {
                 Accessible.name: row.startTimeText + " " + row.title
                 Accessible.description: row.subtitle
                 Accessible.focusable: true
-                Accessible.focused: visible && list.focus
+                Accessible.focused: visible && list.focus && Told.screenFocus
                 Accessible.selectable: true
                 Accessible.selected: row.chosen
                 // A reminder can be set for what is to come.

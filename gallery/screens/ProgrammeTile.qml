@@ -34,7 +34,7 @@ ContentTile {
     Accessible.name: channel + " " + title
     Accessible.description: subtitle
     Accessible.focusable: true
-    Accessible.focused: visible && focused
+    Accessible.focused: visible && focused && Told.screenFocus
     Component.onCompleted: completed = true
 
     Rectangle {

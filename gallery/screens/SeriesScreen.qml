@@ -97,7 +97,7 @@ FocusScope {
         Accessible.role: Accessible.StaticText
         Accessible.name: nothing.text
         Accessible.focusable: true
-        Accessible.focused: visible
+        Accessible.focused: visible && Told.screenFocus
 
         Label {
             id: nothing

@@ -70,6 +70,11 @@ FocusScope {
         name: "about"
         values: ({ about: controller.about, guide: controller.guide })
     }
+    Binding {
+        target: Told
+        property: "screenFocus"
+        value: !shell.controller.menu.open
+    }
     MenuOverlay {
         anchors.fill: parent
         open: shell.controller.menu.open

@@ -38,6 +38,6 @@ VodTile {
     Accessible.name: title
     Accessible.description: subtitle
     Accessible.focusable: true
-    Accessible.focused: visible && focused
+    Accessible.focused: visible && focused && Told.screenFocus
     Component.onCompleted: completed = true
 }

@@ -19,6 +19,46 @@ class tst_MainMenu : public ScreenTest
     bool isShown() const { return items("menuOverlay").size() == 1; }
     QQuickItem *entry(int index) const { return items("menuEntry").at(index); }
 
+    /*!
+        Why what \a fades make of the picture \a plain, \a faded, is not right: towards an edge where the menu goes on,
+        something has to fade into the ground, and all else has to stay as it is.
+    */
+    static QString fadeProblem(const QQuickItem *fades, const QImage &faded, const QImage &plain)
+    {
+        const QRect all = sceneRect(fades).toRect();
+        const int width = fades->property("leftGradientWidth").toInt();
+        const bool left = fades->property("leftGradientOpacity").toReal() > 0;
+        const bool right = fades->property("rightGradientOpacity").toReal() > 0;
+        const QColor ground = fades->property("color").value<QColor>();
+        int fadedLeft = 0;
+        int fadedRight = 0;
+        for (int row = all.top(); row <= all.bottom(); ++row) {
+            for (int column = 0; column < plain.width(); ++column) {
+                const QColor is = faded.pixelColor(column, row);
+                const QColor was = plain.pixelColor(column, row);
+                // From the edge of the strip that it is in, in parts of its width: how much is left of it.
+                qreal rest = 1;
+                const QPointF place(column + 0.5, row + 0.5);
+                const bool inLeft = left && place.x() < all.x() + width && all.contains(column, row);
+                const bool inRight = right && place.x() > all.x() + all.width() - width
+                                     && all.contains(column, row);
+                if (inLeft)
+                    rest = (place.x() - all.x()) / width;
+                else if (inRight)
+                    rest = (all.x() + all.width() - place.x()) / width;
+                const qreal expected = ground.lightness() + rest * (was.lightness() - ground.lightness());
+                if (std::abs(is.lightness() - expected) > 8)
+                    return QStringLiteral("at %1, %2").arg(column).arg(row);
+                fadedLeft += int(inLeft && is != was);
+                fadedRight += int(inRight && is != was);
+            }
+        }
+        // A letter or two at the least.
+        if ((left && fadedLeft < 40) || (right && fadedRight < 40))
+            return QStringLiteral("nothing fades out: %1 pixels, %2 pixels").arg(fadedLeft).arg(fadedRight);
+        return {};
+    }
+
 private Q_SLOTS:
     void cleanup() { end(); }
 
@@ -179,6 +219,29 @@ private Q_SLOTS:
         press(Qt::Key_End);
         QCOMPARE(fades->property("leftGradientOpacity").toReal(), 1.0);
         QCOMPARE(fades->property("rightGradientOpacity").toReal(), 0.0);
+    }
+
+    void theEdgesFadeWhatLiesBelowThem_data() { everyEntryIsWhollySeenWhileItIsChosen_data(); }
+    void theEdgesFadeWhatLiesBelowThem()
+    {
+        QFETCH(QString, resolution);
+        QFETCH(QString, language);
+        gallery::Options options;
+        options.resolution = resolution;
+        options.language = language;
+        start("guide", options);
+        press(Qt::Key_Menu);
+        press(Qt::Key_Home);
+        const Qt::Key onward = language == "ar" ? Qt::Key_Left : Qt::Key_Right;
+        QQuickItem *fades = item("menuFades");
+        for (int i = 0; i < menu()->entries().size(); ++i, press(onward)) {
+            const QImage faded = view()->grabWindow();
+            fades->setVisible(false);
+            const QImage plain = view()->grabWindow();
+            fades->setVisible(true);
+            const QString problem = fadeProblem(fades, faded, plain);
+            QVERIFY2(problem.isEmpty(), qPrintable(QStringLiteral("entry %1: %2").arg(i).arg(problem)));
+        }
     }
 
     void inArabicTheFirstEntryIsAtTheRight()

@@ -113,12 +113,31 @@ bool says(const QQuickItem *item, const char *property)
     return item->property(property).toBool();
 }
 
+// The main menu while it lies over a screen, which looks as before but has no keys.
+const QQuickItem *openMenu(const QQuickItem *item)
+{
+    if (!item->isVisible())
+        return nullptr;
+    if (item->objectName() == "menuOverlay"_L1)
+        return item;
+    const QList<QQuickItem *> children = item->childItems();
+    for (const QQuickItem *child : children) {
+        if (const QQuickItem *menu = openMenu(child))
+            return menu;
+    }
+    return nullptr;
+}
+
 QStringList stateProblems(const AccessibleThing &thing)
 {
     QStringList problems;
+    const QQuickItem *menu = openMenu(thing.item->window()->contentItem());
+    const bool isCovered = menu && !isBelow(thing.item, menu);
     const bool isFocused = says(thing.item, "focused") || thing.item->state() == "focused"_L1;
-    if (isFocused && !thing.state.focused)
+    if (isFocused && !thing.state.focused && !isCovered)
         problems.append(u"shows the focus and does not say so"_s);
+    if (thing.state.focused && isCovered)
+        problems.append(u"says that it has the focus, which the menu has"_s);
     if (says(thing.item, "checked") && !thing.state.checked && !thing.state.selected)
         problems.append(u"is checked and does not say so"_s);
     if (thing.state.checked && !thing.state.checkable && thing.role != QAccessible::RadioButton)

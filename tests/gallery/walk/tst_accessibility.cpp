@@ -37,6 +37,15 @@ QList<QList<Qt::Key>> walks(const QString &screen)
         { "home",
           { { Qt::Key_Up, Qt::Key_Right, Qt::Key_Right }, { Qt::Key_End, Qt::Key_Down, Qt::Key_Down } } },
     };
+    // The home screen has the menu itself.
+    if (screen != "home"_L1) {
+        result << QList<Qt::Key> { Qt::Key_Menu } << QList<Qt::Key> { Qt::Key_Menu, Qt::Key_Right }
+               << QList<Qt::Key> { Qt::Key_Menu, Qt::Key_Menu }
+               << QList<Qt::Key> { Qt::Key_Menu, Qt::Key_Down }
+               << QList<Qt::Key> { Qt::Key_Right, Qt::Key_Down, Qt::Key_Menu }
+               << QList<Qt::Key> { Qt::Key_Return, Qt::Key_Menu }
+               << QList<Qt::Key> { Qt::Key_Info, Qt::Key_Menu };
+    }
     return result + further.value(screen);
 }
 
@@ -111,6 +120,37 @@ private Q_SLOTS:
         // Otherwise the walk would not have got anywhere.
         QVERIFY2(heard.size() >= (screen == "about"_L1 ? 1 : 4),
                  qPrintable(QStringList(heard.values()).join(u'\n')));
+    }
+
+    void whatIsHeardOfTheOpenMenuIsItsEntry_data()
+    {
+        QTest::addColumn<QString>("screen");
+        QStringList screens = gallery::ShellController::screenNames();
+        screens.removeOne(u"home"_s);
+        for (const QString &screen : std::as_const(screens))
+            QTest::addRow("%s", qPrintable(screen)) << screen;
+    }
+    void whatIsHeardOfTheOpenMenuIsItsEntry()
+    {
+        QFETCH(QString, screen);
+        GalleryWindow window;
+        window.showOwnContent();
+        window.start(screen);
+        const auto heard = [&window] {
+            QStringList names;
+            const QList<AccessibleThing> chosen = chosenThings(focusedThings(window.window()));
+            for (const AccessibleThing &thing : chosen)
+                names.append(thing.name);
+            return names;
+        };
+        const QStringList before = heard();
+        QCOMPARE(before.size(), 1);
+        window.press(Qt::Key_Menu);
+        const auto *menu = window.shell()->menu();
+        QVERIFY(menu->isOpen());
+        QCOMPARE(heard(), QStringList { menu->text(menu->entries().at(menu->chosen())) });
+        window.press(Qt::Key_Menu);
+        QCOMPARE(heard(), before);
     }
 
     void withoutGuideAndCatalogueSomethingHasTheKeysToo()
