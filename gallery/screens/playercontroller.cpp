@@ -41,6 +41,7 @@ PlayerController::PlayerController(Clock *clock, Marks *favourites, QObject *par
     , m_clock(clock)
     , m_favourites(favourites)
 {
+    m_idle.setObjectName(QStringLiteral("idle"));
     m_idle.setSingleShot(true);
     m_idle.setInterval(idleTime);
     connect(&m_idle, &QTimer::timeout, this, &PlayerController::hideOverlay);

@@ -183,7 +183,7 @@ private:
 
     Clock *m_clock;
     Marks *m_favourites;
-    QTimer m_idle;
+    QTimer m_idle { this };
     Guide m_guide;
     PlayerProgrammes m_programmes;
     QString m_channelId; // kept while a guide does not have the channel

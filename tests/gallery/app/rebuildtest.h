@@ -8,6 +8,8 @@
 #include "app/remotekeys.h"
 #include "screens/themes.h"
 
+#include <QtCore/qtimer.h>
+#include <QtGui/qpainter.h>
 #include <QtQml/qqmlengine.h>
 #include <QtTest/qsignalspy.h>
 
@@ -85,6 +87,29 @@ protected:
         QTRY_COMPARE(rebuilt.count(), 1);
         QTRY_VERIFY(!m_application->isReading());
         settle();
+    }
+
+    /*!
+        What is seen, without the circles that turn for ever while something is said to load: two pictures of them are
+        the same only by chance.
+    */
+    QImage stillPicture() const
+    {
+        QImage image = view()->grabWindow();
+        QPainter painter(&image);
+        QList<QQuickItem *> turning;
+        collectTurning(view()->rootObject(), turning);
+        for (const QQuickItem *item : std::as_const(turning))
+            painter.fillRect(sceneRect(item), Qt::black);
+        return image;
+    }
+
+    /*! What ends by itself after a while has ended, and what would do so later does not. */
+    void letNothingHappenByItself() const
+    {
+        shell()->detail()->finishOpening();
+        shell()->series()->finishOpening();
+        shell()->player()->findChild<QTimer *>("idle")->stop();
     }
 
     /*! What the controllers tell, a line each; without \a texts only numbers, choices and the like. */
@@ -180,6 +205,17 @@ private:
         // The rest of the class name counts the types of an engine.
         return QString::fromLatin1(item->metaObject()->className()).section("_QML", 0, 0) + u' '
                + item->objectName();
+    }
+
+    static void collectTurning(QQuickItem *item, QList<QQuickItem *> &turning)
+    {
+        if (!item->isVisible())
+            return;
+        if (item->inherits("stbgeneric::Throbber") || item->property("throbberVisible").toBool())
+            turning.append(item);
+        const QList<QQuickItem *> children = item->childItems();
+        for (QQuickItem *child : children)
+            collectTurning(child, turning);
     }
 
     static void collectPlaces(const QQuickItem *item, QStringList &lines)
