@@ -92,6 +92,16 @@ ListView {
             height: width
             visible: row.locked
             source: row.locked ? "qrc:/resources/icons/lock_icon_white.png" : ""
+
+            // The lock is white in each theme.
+            Rectangle {
+                anchors.fill: parent
+                anchors.margins: -Look.tiny
+                z: -1
+                visible: Look.raised.hslLightness > 0.5
+                radius: Look.radius
+                color: Look.quietText
+            }
         }
     }
 

@@ -58,7 +58,8 @@ ListView {
             width: Look.channelLogo.width
             height: Look.channelLogo.height
             visible: String(row.logo).length > 0
-            color: Look.raised
+            // The lock on it is white in each theme.
+            color: Look.raised.hslLightness > 0.5 ? Look.quietText : Look.raised
         }
         // With Qt 6.4 a component cannot say that it belongs where it stands; the linter asks for that. It does not
         // know pixmaps either.
@@ -108,9 +109,10 @@ ListView {
         controller: list.controller
         // qmllint disable type
         cellSize: Qt.size(Look.channelLogo.width, Look.channelLogo.height)
-        // qmllint enable type
         font: Look.heading
-        color: Look.text
+        // On a dark plate in each theme, as the number is.
+        color: QmlDesignSystem.playerTvChannelItemStyle.style.channelNumberTextStyle.color
+        // qmllint enable type
         plate: Qt.darker(Look.accent, 2.3)
     }
 }

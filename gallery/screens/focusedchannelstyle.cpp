@@ -45,9 +45,10 @@ void FocusedChannelStyle::derive()
     derived.playingTextStyle.color = m_color;
     derived.qualityTextStyle.backgroundColor = m_color;
     derived.qualityTextStyle.color = m_plateColor;
-    // What is played has a colour of its own, which is seen on the plate too.
+    // The theme's accent need not be seen on the plate.
+    derived.progressPlayedColor = m_color;
     derived.progressRemainderColor = m_color;
-    derived.progressRemainderColor.setAlphaF(0.2F);
+    derived.progressRemainderColor.setAlphaF(0.25F);
     setStyle(derived);
 }
 

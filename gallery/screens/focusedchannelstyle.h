@@ -17,7 +17,7 @@ class FocusedChannelStyle : public design_system::PlayerTvChannelItemQmlStyle
     Q_OBJECT
     /*! The style that fonts and measures are taken from. Null (the default): the default values. */
     Q_PROPERTY(design_system::PlayerTvChannelItemQmlStyle *base READ base WRITE setBase NOTIFY baseChanged)
-    /*! The colour of names and of the mark of the channel that plays, and of the quality's badge. */
+    /*! The colour of names and of the mark of the channel that plays, of the quality's badge and of the progress. */
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
     /*! The colour of the text in the badge, and of the plate. */
     Q_PROPERTY(QColor plateColor READ plateColor WRITE setPlateColor NOTIFY plateColorChanged)

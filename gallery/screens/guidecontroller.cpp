@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "screens/guidecontroller.h"
+#include "screens/mediaitem.h"
 
 #include "gallery/data/clock.h"
 #include "gallery/data/ownguide.h"
+#include "screens/mediaitem.h"
 #include "screens/remotekey.h"
 
 #include <QtCore/qcoreapplication.h>
@@ -201,8 +203,8 @@ QString GuideController::timeRange() const
 {
     if (m_programmeRow < 0)
         return {};
-    return u"%1 – %2"_s.arg(chosen(ProgrammeModel::StartTimeTextRole).toString(),
-                            chosen(ProgrammeModel::StopTimeTextRole).toString());
+    return timeRangeText(chosen(ProgrammeModel::StartTimeTextRole).toString(),
+                         chosen(ProgrammeModel::StopTimeTextRole).toString());
 }
 
 QString GuideController::dayText() const

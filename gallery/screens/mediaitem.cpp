@@ -148,7 +148,14 @@ QString secondLine(const MediaItem &item)
                 .arg(dayName(item.start.date(), today), item.start.toString(u"HH:mm"_s));
     }
     const QDateTime stop = item.start.addSecs(qint64(item.duration));
-    return u"%1 – %2"_s.arg(item.start.toString(u"HH:mm"_s), stop.toString(u"HH:mm"_s));
+    return timeRangeText(item.start.toString(u"HH:mm"_s), stop.toString(u"HH:mm"_s));
+}
+
+QString timeRangeText(const QString &start, const QString &stop)
+{
+    //: %1 and %2 are the times of start and stop. A language that is read from the right has its marks (U+200F) around
+    //: the dash, or the times change places where there is no other text.
+    return QCoreApplication::translate("MediaItem", "%1 – %2").arg(start, stop);
 }
 
 QString thirdLine(const MediaItem &item)

@@ -67,6 +67,8 @@ QString lengthText(double seconds);
 
 /*! "Yesterday", "Today", "Tomorrow", or the weekday and date in short. */
 QString dayName(QDate day, QDate today);
+/*! "20:00 – 20:30"; the times stand in the order of reading, whatever is around them. */
+QString timeRangeText(const QString &start, const QString &stop);
 /*!
     "20:15 – 21:30" of a programme that is on or of today, "Tomorrow, 20:15" of another one; else the subtitle: the
     second line of a tile.

@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>Leave</source>
-        <translation>مغادرة</translation>
+        <translation>خروج</translation>
     </message>
 </context>
 <context>
@@ -422,7 +422,7 @@
     </message>
     <message>
         <source>Leave</source>
-        <translation>مغادرة</translation>
+        <translation>خروج</translation>
     </message>
 </context>
 <context>
@@ -501,7 +501,7 @@
     </message>
     <message>
         <source>Components</source>
-        <translation>المكونات</translation>
+        <translation>المكوّنات</translation>
     </message>
     <message>
         <source>About</source>
@@ -514,6 +514,11 @@
         <source>%1, %2</source>
         <extracomment>%1 is a day (&quot;Tomorrow&quot;), %2 a time: &quot;Tomorrow, 20:15&quot;</extracomment>
         <translation>%1، %2</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <extracomment>%1 and %2 are the times of start and stop. A language that is read from the right has its marks (U+200F) around the dash, or the times change places where there is no other text.</extracomment>
+        <translation>%1 ‏–‏ %2</translation>
     </message>
     <message>
         <source>%1 min</source>
@@ -871,7 +876,7 @@
     </message>
     <message>
         <source>Leave</source>
-        <translation>مغادرة</translation>
+        <translation>خروج</translation>
     </message>
 </context>
 <context>

@@ -516,6 +516,11 @@
         <translation>%1, %2</translation>
     </message>
     <message>
+        <source>%1 – %2</source>
+        <extracomment>%1 and %2 are the times of start and stop. A language that is read from the right has its marks (U+200F) around the dash, or the times change places where there is no other text.</extracomment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
         <source>%1 min</source>
         <extracomment>Length of a film: minutes</extracomment>
         <translation>%1 Min.</translation>
