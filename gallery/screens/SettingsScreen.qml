@@ -101,11 +101,11 @@ FocusScope {
 
             KeyHint {
                 key: "▲ ▼"
-                text: qsTr("Move")
+                text: qsTr("Select")
             }
             KeyHint {
                 key: qsTr("OK", "a key of the remote control")
-                text: screen.settings.inValues ? qsTr("Choose") : qsTr("Change")
+                text: screen.settings.inValues ? qsTr("Choose") : qsTr("Open")
             }
             KeyHint {
                 key: qsTr("BACK", "a key of the remote control")

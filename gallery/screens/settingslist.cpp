@@ -165,7 +165,7 @@ QStringList settingsGroupTitles()
     return { QCoreApplication::translate("Settings", "Picture"),
              QCoreApplication::translate("Settings", "Language"),
              QCoreApplication::translate("Settings", "Look"),
-             QCoreApplication::translate("Settings", "Movement") };
+             QCoreApplication::translate("Settings", "Animation") };
 }
 
 QList<SettingsSection> settingsSections(SettingsGroup group, const SettingsStore &store,

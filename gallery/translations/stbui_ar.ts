@@ -950,7 +950,7 @@
         <translation>المظهر</translation>
     </message>
     <message>
-        <source>Movement</source>
+        <source>Animation</source>
         <translation>الحركة</translation>
     </message>
 </context>
@@ -965,8 +965,8 @@
         <translation>تعذّر الحفظ: يسري حتى الخروج</translation>
     </message>
     <message>
-        <source>Move</source>
-        <translation>تنقّل</translation>
+        <source>Select</source>
+        <translation>اختيار</translation>
     </message>
     <message>
         <source>OK</source>
@@ -978,8 +978,8 @@
         <translation>اختيار</translation>
     </message>
     <message>
-        <source>Change</source>
-        <translation>تغيير</translation>
+        <source>Open</source>
+        <translation>فتح</translation>
     </message>
     <message>
         <source>BACK</source>

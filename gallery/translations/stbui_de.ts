@@ -950,8 +950,8 @@
         <translation>Aussehen</translation>
     </message>
     <message>
-        <source>Movement</source>
-        <translation>Bewegung</translation>
+        <source>Animation</source>
+        <translation>Animation</translation>
     </message>
 </context>
 <context>
@@ -965,8 +965,8 @@
         <translation>Nicht gespeichert: gilt bis zum Verlassen</translation>
     </message>
     <message>
-        <source>Move</source>
-        <translation>Bewegen</translation>
+        <source>Select</source>
+        <translation>Auswählen</translation>
     </message>
     <message>
         <source>OK</source>
@@ -978,8 +978,8 @@
         <translation>Wählen</translation>
     </message>
     <message>
-        <source>Change</source>
-        <translation>Ändern</translation>
+        <source>Open</source>
+        <translation>Öffnen</translation>
     </message>
     <message>
         <source>BACK</source>

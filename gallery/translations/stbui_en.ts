@@ -950,8 +950,8 @@
         <translation>Look</translation>
     </message>
     <message>
-        <source>Movement</source>
-        <translation>Movement</translation>
+        <source>Animation</source>
+        <translation>Animation</translation>
     </message>
 </context>
 <context>
@@ -965,8 +965,8 @@
         <translation>This could not be stored: it holds until you leave</translation>
     </message>
     <message>
-        <source>Move</source>
-        <translation>Move</translation>
+        <source>Select</source>
+        <translation>Select</translation>
     </message>
     <message>
         <source>OK</source>
@@ -978,8 +978,8 @@
         <translation>Choose</translation>
     </message>
     <message>
-        <source>Change</source>
-        <translation>Change</translation>
+        <source>Open</source>
+        <translation>Open</translation>
     </message>
     <message>
         <source>BACK</source>

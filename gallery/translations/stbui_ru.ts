@@ -950,7 +950,7 @@
         <translation>Вид</translation>
     </message>
     <message>
-        <source>Movement</source>
+        <source>Animation</source>
         <translation>Анимация</translation>
     </message>
 </context>
@@ -965,8 +965,8 @@
         <translation>Не удалось сохранить: действует до выхода</translation>
     </message>
     <message>
-        <source>Move</source>
-        <translation>Перейти</translation>
+        <source>Select</source>
+        <translation>Выбор</translation>
     </message>
     <message>
         <source>OK</source>
@@ -978,8 +978,8 @@
         <translation>Выбрать</translation>
     </message>
     <message>
-        <source>Change</source>
-        <translation>Изменить</translation>
+        <source>Open</source>
+        <translation>Открыть</translation>
     </message>
     <message>
         <source>BACK</source>

@@ -76,7 +76,7 @@ private Q_SLOTS:
 
     void startsWithTheKeysOnTheFirstGroup()
     {
-        QCOMPARE(m->groups(), (QStringList { "Picture", "Language", "Look", "Movement" }));
+        QCOMPARE(m->groups(), (QStringList { "Picture", "Language", "Look", "Animation" }));
         QCOMPARE(m->groupIndex(), 0);
         QCOMPARE(m->groupTitle(), "Picture");
         QVERIFY(!m->isInValues());
