@@ -59,5 +59,8 @@ ContentTile {
         y: tile.customFocusRect.y + tile.customFocusRect.height - height - Look.medium
         width: tile.customFocusRect.width - 2 * Look.medium
         progress: tile.progress
+        // On a picture, as a tile's own bar.
+        fill: tile.style.style.progressValueColor
+        color: tile.style.style.progressTrackColor
     }
 }

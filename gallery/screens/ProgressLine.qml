@@ -8,6 +8,7 @@ Rectangle {
 
     // 0 to 1.
     required property real progress
+    property color fill: Look.accent
 
     height: Look.barHeight
     color: Look.track
@@ -16,6 +17,6 @@ Rectangle {
         anchors.left: parent.left
         width: Math.round(parent.width * line.progress)
         height: parent.height
-        color: Look.accent
+        color: line.fill
     }
 }

@@ -216,7 +216,7 @@
     </message>
     <message>
         <source>Leave</source>
-        <translation>مغادرة</translation>
+        <translation>خروج</translation>
     </message>
     <message>
         <source>Properties</source>
@@ -771,7 +771,7 @@
     </message>
     <message>
         <source>Leave</source>
-        <translation>مغادرة</translation>
+        <translation>خروج</translation>
     </message>
 </context>
 <context>
