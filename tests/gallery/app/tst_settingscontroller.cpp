@@ -508,7 +508,7 @@ private Q_SLOTS:
     void theTextsAreInTheLanguageOfTheApplication()
     {
         QVERIFY(gallery::installLanguage("de"));
-        QCOMPARE(m->groups(), (QStringList { "Bild", "Sprache", "Aussehen", "Bewegung" }));
+        QCOMPARE(m->groups(), (QStringList { "Bild", "Sprache", "Aussehen", "Animation" }));
         QVERIFY(titles().contains("Hoher Kontrast"));
         m->focusGroup(Language);
         QVERIFY(titles().contains("English"));
