@@ -4,7 +4,6 @@
 
 #include "gallery/data/clock.h"
 #include "gallery/data/ownguide.h"
-#include "screens/mediaitem.h"
 #include "screens/remotekey.h"
 
 #include <QtCore/qcoreapplication.h>
