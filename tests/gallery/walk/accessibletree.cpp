@@ -43,6 +43,14 @@ void collectItems(QQuickItem *item, QList<QQuickItem *> &items)
         collectItems(child, items);
 }
 
+// Newer views than those of Qt 6.4 put the roots of all their delegates into the tree. Such a root that says nothing of
+// itself is a group of what it holds.
+bool isGroup(const QQuickItem *item, const QAccessibleInterface *told)
+{
+    return told->role() == QAccessible::Client && !told->state().focusable
+           && QQuickAccessibleAttached::attachedProperties(item) == nullptr;
+}
+
 // Qt's tree has the items that are accessible, below the nearest ancestor that is; what it tells comes from Qt.
 void collectThings(QQuickItem *item, bool onlyFocused, QList<AccessibleThing> &things)
 {
@@ -52,7 +60,7 @@ void collectThings(QQuickItem *item, bool onlyFocused, QList<AccessibleThing> &t
         QAccessibleInterface *told = QAccessible::queryAccessibleInterface(item);
         const QAccessible::State state = told ? told->state() : QAccessible::State();
         const QRectF rect = onlyFocused && !state.focused ? QRectF() : visibleRect(item);
-        if (told && !state.invisible && !rect.isEmpty()) {
+        if (told && !isGroup(item, told) && !state.invisible && !rect.isEmpty()) {
             things.append({ item, rect, told->text(QAccessible::Name), told->text(QAccessible::Description),
                             told->role(), state });
         }
