@@ -39,6 +39,12 @@ const QStringList components { "BusyIndicator", "CheckBox",       "CircleProgres
 
 } // namespace
 
+QT_WARNING_PUSH
+QT_WARNING_DISABLE_DEPRECATED
+// Qt 6.11 has another name for what Qt 6.4 only knows by this one.
+using Sequence = QSequentialIterable;
+QT_WARNING_POP
+
 class tst_Registration : public stbtest::TestCase
 {
     Q_OBJECT
@@ -162,9 +168,6 @@ private Q_SLOTS:
         QVERIFY(!QMetaType::fromName("QQmlListProperty<StbNoSuchTile>").isValid());
     }
 
-    // Qt 6.11 has another name for what Qt 6.4 only knows by this one.
-    QT_WARNING_PUSH
-    QT_WARNING_DISABLE_DEPRECATED
     // The type is never named but by its name, which would register it here.
     void aListOfColoursIsReadAndWrittenAsASequence()
     {
@@ -174,18 +177,17 @@ private Q_SLOTS:
         const QMetaType type = QMetaType::fromName("QList<QColor>");
         QVERIFY(type.isValid());
         QVariant colors(type, nullptr);
-        QVERIFY(colors.canConvert<QSequentialIterable>());
-        QVERIFY(colors.canView<QSequentialIterable>());
-        auto view = colors.view<QSequentialIterable>();
+        QVERIFY(colors.canConvert<Sequence>());
+        QVERIFY(colors.canView<Sequence>());
+        auto view = colors.view<Sequence>();
         view.addValue(QColor("#112233"));
         view.addValue(QColor("#445566"));
         view.set(0, QColor("#778899"));
-        const auto list = colors.value<QSequentialIterable>();
+        const auto list = colors.value<Sequence>();
         QCOMPARE(list.size(), 2);
         QCOMPARE(list.at(0).value<QColor>(), QColor("#778899"));
         QCOMPARE(list.at(1).value<QColor>(), QColor("#445566"));
     }
-    QT_WARNING_POP
 
     void theQmldirStandsInTheResources()
     {
