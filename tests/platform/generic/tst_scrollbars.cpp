@@ -163,11 +163,13 @@ private Q_SLOTS:
         QVERIFY(scene.show(u"ScrollBar { height: 100; size: 0.25; position: 0.5 }"_s));
         QAccessibleInterface *bar = stbtest::accessible(scene.item.get());
         QVERIFY(bar && bar->valueInterface());
+        // From Qt 6.11 on Qt tells the same in percent.
+        const double whole = bar->valueInterface()->maximumValue().toDouble();
         QCOMPARE(bar->valueInterface()->minimumValue().toDouble(), 0.0);
-        QCOMPARE(bar->valueInterface()->maximumValue().toDouble(), 0.75);
-        QCOMPARE(bar->valueInterface()->currentValue().toDouble(), 0.5);
+        QCOMPARE(bar->valueInterface()->currentValue().toDouble() / whole, 0.5 / 0.75);
+        QCOMPARE(scene.item->property("maximumValue").toDouble(), 0.75);
         scene.item->setProperty("size", 1.5);
-        QCOMPARE(bar->valueInterface()->maximumValue().toDouble(), 0.0);
+        QCOMPARE(scene.item->property("maximumValue").toDouble(), 0.0);
     }
 };
 
